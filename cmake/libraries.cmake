@@ -1,0 +1,41 @@
+# The libraries that hosts link, put together from the folders' sources.
+#
+#   brask       the controls as one archive, without drawing layer and platform
+#   fenn        the drawing layer as an archive
+#   Lib_Brask   the controls as a shared library
+#   Lib_Fenn    the drawing layer as a shared library; off Windows it carries the platform inside
+
+get_property(brask_sources GLOBAL PROPERTY HOUSE_SOURCES_brask)
+get_property(fenn_sources GLOBAL PROPERTY HOUSE_SOURCES_fenn)
+
+add_library(brask STATIC ${brask_sources} $<TARGET_OBJECTS:text>)
+target_link_libraries(brask PUBLIC brask_headers platform_names)
+target_compile_definitions(brask PUBLIC BRASK_STATIC FENN_STATIC)
+target_include_directories(brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls)
+
+add_library(fenn STATIC ${fenn_sources})
+target_link_libraries(fenn PUBLIC brask_headers platform raster text PRIVATE fenn_system)
+target_compile_definitions(fenn PUBLIC FENN_STATIC)
+target_include_directories(fenn PUBLIC ${HOUSE_FLOORS}/fenn)
+
+# On Windows what a library exports is marked in the objects, so the shared ones are compiled for themselves.
+if(WIN32)
+  add_library(Lib_Brask SHARED ${brask_sources} $<TARGET_OBJECTS:text>)
+  target_include_directories(Lib_Brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls)
+  target_link_libraries(Lib_Brask PUBLIC brask_headers platform_names)
+  add_library(Lib_Fenn SHARED ${fenn_sources} $<TARGET_OBJECTS:text> $<TARGET_OBJECTS:raster>)
+  target_include_directories(Lib_Fenn PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/raster ${HOUSE_FLOORS}/fenn)
+  target_link_libraries(Lib_Fenn PUBLIC brask_headers platform PRIVATE fenn_system)
+else()
+  add_library(Lib_Brask SHARED $<TARGET_OBJECTS:brask> $<TARGET_OBJECTS:text>)
+  target_link_libraries(Lib_Brask PUBLIC brask_headers)
+  add_library(Lib_Fenn SHARED $<TARGET_OBJECTS:fenn> $<TARGET_OBJECTS:text> $<TARGET_OBJECTS:raster>
+                              $<TARGET_OBJECTS:platform>)
+  target_link_libraries(Lib_Fenn PUBLIC brask_headers PRIVATE fenn_system platform_system)
+endif()
+target_compile_definitions(Lib_Brask PRIVATE BRASK_BUILD)
+target_compile_definitions(Lib_Fenn PRIVATE FENN_BUILD)
+target_link_libraries(Lib_Brask PUBLIC Lib_Fenn)
+# Files named exactly so, with the system's ending.
+set_target_properties(Lib_Brask Lib_Fenn PROPERTIES PREFIX "" RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin
+                      LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
