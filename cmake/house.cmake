@@ -31,7 +31,7 @@ foreach(header IN LISTS house_headers)
   file(CREATE_LINK ${header} ${HOUSE_PUBLIC}/brask/${name} SYMBOLIC)
 endforeach()
 add_library(brask_headers INTERFACE)
-target_include_directories(brask_headers INTERFACE ${HOUSE_PUBLIC})
+target_include_directories(brask_headers INTERFACE $<BUILD_INTERFACE:${HOUSE_PUBLIC}> $<INSTALL_INTERFACE:include>)
 
 # Sources of a library, gathered from the folders that it is made of.
 function(house_sources library)
