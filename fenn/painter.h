@@ -1,0 +1,29 @@
+#ifndef FENN_PAINTER_H
+#define FENN_PAINTER_H
+
+#include "raster/canvas.h"
+#include <brask/platform.h>
+
+// The open bracket, as the parts of the drawing layer share it.
+namespace fenn {
+
+struct Bracket {
+    HWND wnd;
+    raster::Canvas canvas;
+    raster::Rect clip; // canvas coordinates (Y downward), cut to the canvas; may be empty
+    HDC dc;            // = Zeb_DC. On Windows a memory context on the canvas, Y upward, clipped like `clip`;
+                       // what is drawn on it needs no flush and no changed()
+};
+
+// Null outside a bracket, and inside one that has nothing to paint on.
+const Bracket* bracket();
+
+// Tells that a rectangle of the canvas changed; cut to the clip here. Zeb_release shows the union.
+void changed(const raster::Rect& rect);
+
+// From the contract's rows, Y upward, to the canvas' and back.
+int flip(const raster::Canvas& canvas, int y);
+
+} // namespace fenn
+
+#endif
