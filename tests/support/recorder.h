@@ -1,0 +1,75 @@
+#ifndef SUPPORT_RECORDER_H
+#define SUPPORT_RECORDER_H
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <brask/fenn.h>
+
+#include "picture.h"
+
+// The drawing contract kept a second time, for tests. Every call becomes one line of text, such as
+//
+//   Zeb_setup(WND, "Tools::Cadre")
+//   draw_fill_rectangle(10, 40, 61, 9)
+//   Zeb_Font_Write(font3, 12, 20, "OK")
+//
+// and every report one line "[90000029] >>> in  Lib_Brask: ...". Fonts have fixed metrics, the pointer is
+// where the test puts it. A caller that breaks the rules of the bracket is told so at once.
+namespace recorder {
+
+// What a line is about; kinds may be added to choose several.
+enum Kind : unsigned {
+    kDraw = 1,    // bracket, colour, clip, shapes, pictures, writing, pointer
+    kMeasure = 2, // sizes of texts and fonts
+    kReport = 4,  // Error_Fct
+    kSystem = 8,  // the platform's functions, as the double of them notes
+    kService = 16 // device contexts for measuring, strings, files
+};
+constexpr unsigned kEverything = 31;
+
+struct Line {
+    Kind kind;
+    unsigned code; // of a report, else 0
+    std::string text;
+};
+
+// Forgets the log, names, metrics and pointer; hwnd and the windows' sizes are as at the start.
+void reset();
+// --- The log ---
+void note(Kind kind, const std::string& line, unsigned code = 0);
+const std::vector<Line>& log();
+void clear();
+// The lines of these kinds, one under the other, each with a line end.
+std::string text(unsigned kinds = kEverything);
+// Reports of this code, without the code in front.
+std::vector<std::string> reports(unsigned code);
+// Reports other than traces and the font cache's banner, with their codes.
+std::string warnings();
+// What stands between the parentheses of the last "<<< out Lib_Brask: operation(...)"; "(none)" without one.
+std::string exit_tag(const std::string& operation);
+
+// --- Names, so that lines can be read ---
+HWND window(int number = 1);                           // WND, WND2, ...
+HDC context();                                         // the device context that Zeb_GetDC gives: DC
+void name(const void* thing, const std::string& name); // a surface or a font; else told by its address
+std::string named(const void* thing);
+std::string quoted(const wchar_t* text); // UTF-8 in quotes, with control characters written out
+std::string narrow(const wchar_t* text); // UTF-8
+
+// --- What the layer answers ---
+void pointer(int x, int y); // window pixels, Y upward
+void metrics(HFONT font, int height, int width);
+
+// --- The rules of the bracket ---
+// Called at each breach; the start prints and aborts.
+void on_breach(void (*handler)(const char* what));
+bool open(); // inside a bracket now
+
+// --- A picture behind the lines; null for none ---
+void paint_on(Picture* picture);
+
+} // namespace recorder
+
+#endif

@@ -1,0 +1,48 @@
+#ifndef SUPPORT_RECORDER_STATE_H
+#define SUPPORT_RECORDER_STATE_H
+
+#include <cstdio>
+
+#include "recorder.h"
+
+// What the recorder's own files share.
+namespace recorder {
+
+struct Metrics {
+    int height, width;
+};
+
+struct State {
+    std::vector<Line> lines;
+    std::map<const void*, std::string> names;
+    std::map<HFONT, Metrics> metrics;
+    Picture* picture = nullptr;
+    POINT pointer = {-10000, -10000};
+    int client_height = 600;
+    bool open = false;  // between Zeb_setup and Zeb_release
+    bool blind = false; // the bracket's window is null: nothing is painted
+    bool clipped = false;
+    bool measuring = false; // between Zeb_GetDC and Zeb_ReleaseDC
+    unsigned long text_color = 1;
+};
+
+State& state();
+void breach(const std::string& what);
+std::string escaped(const std::string& text); // control characters written out
+
+// One line of a call: numbers as they are, texts already in their form.
+template <typename... Arguments>
+void call(Kind kind, const char* format, Arguments... arguments) {
+    char line[512];
+    std::snprintf(line, sizeof line, format, arguments...);
+    note(kind, line);
+}
+
+// The picture to paint on, null when there is none or the bracket paints nothing.
+Picture* picture();
+// Tells a breach when the call is made outside of a bracket.
+void inside(const char* operation);
+
+} // namespace recorder
+
+#endif
