@@ -1,0 +1,16 @@
+#include <cstring>
+
+#include "page.h"
+
+std::unique_ptr<Page> make_page_basics();
+
+const PageEntry pages[] = {
+    {"Basics", make_page_basics},
+};
+const std::size_t page_count = sizeof pages / sizeof pages[0];
+
+const PageEntry* page_find(const char* name) {
+    for (const PageEntry& entry : pages)
+        if (std::strcmp(entry.name, name) == 0) return &entry;
+    return nullptr;
+}
