@@ -1,6 +1,8 @@
 #ifndef FENN_PAINTER_H
 #define FENN_PAINTER_H
 
+#include <cstdint>
+
 #include "raster/canvas.h"
 #include <brask/platform.h>
 
@@ -23,6 +25,16 @@ void changed(const raster::Rect& rect);
 
 // From the contract's rows, Y upward, to the canvas' and back.
 int flip(const raster::Canvas& canvas, int y);
+
+// Coordinates beyond this show nothing; cut to it, their sums and differences stay within an int.
+constexpr int farthest = 1 << 29;
+constexpr int limit(std::int64_t value) {
+    return static_cast<int>(value < -farthest ? -farthest : value > farthest ? farthest : value);
+}
+
+// Where lines start, in contract coordinates; the context's position follows it.
+POINT pen();
+void set_pen(int x, int y);
 
 } // namespace fenn
 

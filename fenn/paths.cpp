@@ -1,0 +1,114 @@
+#include <algorithm>
+#include <cstring>
+#include <cwchar>
+#include <string>
+
+#include <brask/fenn.h>
+
+#include "fenn/system.h"
+
+// Paths in the library's form: drive letters and "\"; "/" is accepted wherever a path comes in.
+
+namespace fenn {
+namespace {
+
+constexpr std::size_t path_size = 2048;
+constexpr std::size_t name_size = 771;
+
+bool is_separator(wchar_t c) { return c == L'\\' || c == L'/'; }
+bool is_letter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
+bool has_drive(const wchar_t* path) { return is_letter(path[0]) && path[1] == L':'; }
+
+// The part of an absolute path that ".." cannot leave: "C:", or "\\server\share".
+std::size_t root_length(const std::wstring& path) {
+    if (has_drive(path.c_str())) return 2;
+    if (!is_separator(path[0]) || !is_separator(path[1])) return 0;
+    std::size_t at = 2;
+    for (int part = 0; part < 2 && at < path.size(); ++part) {
+        if (part > 0) ++at;
+        while (at < path.size() && !is_separator(path[at]))
+            ++at;
+    }
+    return at;
+}
+
+// Puts the current folder, or its drive alone, in front of a path that does not begin at a root.
+bool complete(std::wstring& path) {
+    if (root_length(path) > 0) return true;
+    wchar_t folder[path_size];
+    if (!current_folder(folder, path_size)) return false;
+    std::wstring start = folder;
+    if (is_separator(path[0])) start.resize(root_length(start));
+    path = start + L'\\' + path;
+    return true;
+}
+
+// Steps through the parts: none is empty, "." and ".." are carried out.
+std::wstring resolve(const std::wstring& path) {
+    const std::size_t root = root_length(path);
+    std::wstring result = path.substr(0, root);
+    std::replace(result.begin(), result.end(), L'/', L'\\');
+    for (std::size_t at = root; at < path.size();) {
+        std::size_t end = at;
+        while (end < path.size() && !is_separator(path[end]))
+            ++end;
+        const std::wstring part = path.substr(at, end - at);
+        at = end + 1;
+        if (part == L"..")
+            result.resize(std::max(root, std::min(result.rfind(L'\\'), result.size())));
+        else if (!part.empty() && part != L".")
+            result += L'\\' + part;
+    }
+    if (is_separator(path.back()) || result.size() == root) result += L'\\';
+    return result;
+}
+
+bool is_separator(char c) { return c == '\\' || c == '/'; }
+
+// Copies at most what an output of Get_Generic_Name holds, without cutting a character. The output may be the
+// path itself.
+void copy_part(char* out, const char* from, const char* end) {
+    if (!out) return;
+    std::size_t size = static_cast<std::size_t>(end - from);
+    if (size >= name_size) {
+        size = name_size - 1;
+        while (size > 0 && (from[size] & 0xC0) == 0x80)
+            --size;
+    }
+    std::memmove(out, from, size);
+    out[size] = 0;
+}
+
+// Where the ending starts; a name that is all dots, or has its one dot in front, has none.
+const char* ending_of(const char* file, const char* end) {
+    const char* const name = file + std::strspn(file, ".");
+    for (const char* at = end; at > name; --at)
+        if (at[-1] == '.') return at - 1;
+    return end;
+}
+
+} // namespace
+} // namespace fenn
+
+FENN_API int Path_To_Abs(wchar_t* path) {
+    if (!path) return 0;
+    std::wstring whole = *path ? path : L".";
+    if (!fenn::complete(whole)) return 0;
+    whole = fenn::resolve(whole);
+    if (whole.size() >= fenn::path_size) return 0;
+    std::wmemcpy(path, whole.c_str(), whole.size() + 1);
+    return 1;
+}
+
+FENN_API void Get_Generic_Name(char* path, char* folder, char* file, char* bare) {
+    const char* const start = path ? path : "";
+    const char* const end = start + std::strlen(start);
+    const char* name = end;
+    while (name > start && !fenn::is_separator(name[-1]))
+        --name;
+    if (name == start && start[0] != 0 && start[1] == ':') name = start + 2; // a drive without a folder
+    const char* const ending = fenn::ending_of(name, end);
+    fenn::copy_part(bare, name, ending);
+    fenn::copy_part(file, name, end);
+    fenn::copy_part(folder, start, name);
+}
