@@ -5,7 +5,7 @@
 #   setup_want WHAT...     the same, but answers 1 where it cannot, and goes on
 #
 # The groups: build (compile and link), look (run a window or a picture), proofs (tests and checks), windows
-# (cross compiler and Wine).
+# (cross compiler and Wine), measures (benchmarks), peers (toolkits they are compared with).
 
 setup_packages() {
     case $1 in
@@ -13,6 +13,8 @@ setup_packages() {
     look) echo "libsdl2-2.0-0 fonts-liberation fonts-noto-core fonts-droid-fallback" ;;
     proofs) echo "clang clang-format libgtest-dev googletest xvfb xdotool python3" ;;
     windows) echo "g++-mingw-w64-x86-64-posix wine wine64" ;;
+    measures) echo "libbenchmark-dev" ;;
+    peers) echo "xvfb libfltk1.3-dev qt6-base-dev" ;;
     esac
 }
 
@@ -23,6 +25,8 @@ setup_present() {
     look) true ;;
     proofs) command -v clang++ clang-format Xvfb xdotool python3 >/dev/null && [ -d /usr/src/googletest ] ;;
     windows) command -v x86_64-w64-mingw32-g++-posix wine >/dev/null ;;
+    measures) pkg-config --exists benchmark ;;
+    peers) command -v Xvfb fltk-config qmake6 >/dev/null ;;
     esac
 }
 
