@@ -36,12 +36,6 @@ class BRASK_API Boxs : public Tools {
     // Ends a press: gives the normal look back. Does not reset `select`, so a box under a resting pointer
     // does not light up again until the pointer has left it.
     void Deselect();
-
-  private:
-    struct Face;
-    Face Face_Geometry() const;
-    void Paint_Title();
-    void Paint_Face(int look);
 };
 
 #endif

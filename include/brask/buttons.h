@@ -57,14 +57,6 @@ class BRASK_API Buttons : public Tools {
     int Read();
     // Gives the normal look back if the selected one is shown.
     void Deselect();
-
-  private:
-    int Bevel() const;
-    void Choose_Images();
-    void Paint_Lamp();
-    void Paint_Label(long flags);
-    void Paint_Value_Label();
-    void Paint_Look(int look);
 };
 
 #endif

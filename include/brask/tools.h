@@ -166,6 +166,13 @@ class BRASK_API Tools {
     // colour. Characters whose low byte is 1 to 6 change the colour of what follows (blue, black, white,
     // red, yellow, green), 240 to 242 the font (regular, bold, oblique).
     void Text(const wchar_t* text, long flag, int x, int y, int dx, int dy, int border, unsigned int color);
+
+  private:
+    friend struct Host_Surfaces;
+    // Blocks that Alloc_Graph_* has freed although the last Init had seen them: views on them show what took
+    // their place. Only compared, never followed.
+    DWORD* Gone_Select;
+    DWORD* Gone_Normal;
 };
 
 #endif

@@ -1,0 +1,20 @@
+#include "foundation/checks.h"
+
+#include "foundation/trace.h"
+
+void warn_first_use(Tools& control, const char* type) {
+    Error_Fct(hwnd, REPORT_FIRST_USE, "Tools: WARNING ! ");
+    // A name given before Init leaves its bit, and so the object does not look untouched.
+    Error_Fct(hwnd, REPORT_FIRST_USE,
+              control.test ? "   bad data in device's structure" : "   you must call *_Init() first");
+    Error_Fct(hwnd, REPORT_FIRST_USE, "   type: %hs   name: %ls\n", type, report_name(control));
+    control.test = TEST_WARNED;
+}
+
+bool missing_window(const Tools& control, const char* type) {
+    if (control.Wnd) return false;
+    Error_Fct(hwnd, REPORT_WARNING, "Tools: WARNING ! ");
+    Error_Fct(hwnd, REPORT_WARNING, "   you must provide a window");
+    Error_Fct(hwnd, REPORT_WARNING, "   type: %hs   name: %ls", type, report_name(control));
+    return true;
+}

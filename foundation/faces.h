@@ -1,0 +1,43 @@
+#ifndef FOUNDATION_FACES_H
+#define FOUNDATION_FACES_H
+
+#include <brask/tools.h>
+
+// Generated faces: surfaces that know their size, have counted owners, and are shared by all controls that
+// want the same pixels. Two hundred equal buttons have four of them in all, which the processor's caches
+// keep. They are given by their pixels, a block from malloc.
+
+// Everything that decides the pixels of a face.
+struct Look {
+    int width, height; // at least 1
+    int inset;         // width of the margin, which is never shown; at least 0
+    DWORD color;       // surface word
+    bool flat;
+};
+
+// The look that a control would give to a face of this colour.
+Look look_of(const Tools& control, const Colors& color);
+
+// A block for so many pixels from malloc; null when memory fails, for less than one pixel, and for more than
+// any screen has.
+DWORD* surface_block(int width, int height);
+// The pixels of a look, as a block of their own, not counted; null when memory fails.
+DWORD* paint_look(const Look& look);
+
+namespace faces {
+
+// The face that the control needs in this colour: an equal one that others own
+// already, or a new one. Null when memory fails. Traced as the painting of a face.
+DWORD* ask(const Tools& control, const Colors& color);
+
+// One owner more, for a control that was copied.
+void share(const DWORD* face);
+// One owner less; the last one frees it. Null, for `face = drop(face)`.
+DWORD* drop(DWORD* face);
+
+// Is this a face of another size than the control has now? Such a face must not be read.
+bool outgrown(const void* image, const Tools& control);
+
+} // namespace faces
+
+#endif

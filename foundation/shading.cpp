@@ -1,0 +1,98 @@
+#include "foundation/faces.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+#include "foundation/pixels.h"
+
+namespace {
+
+constexpr std::int64_t MOST_PIXELS = 1 << 26; // 256 MB, several times the largest screen
+
+constexpr std::int64_t WIDEST_INSET = 1 << 30; // twice that leaves nothing of any surface
+
+constexpr int SPAN = 100; // of the shading along each axis, so that opposite corners differ by twice that
+
+// The part of a face that is shaded; empty when the margins meet.
+struct Inner {
+    int left, top, width, height;
+};
+
+Inner inner_of(const Look& look) {
+    const std::int64_t width = look.width - 2 * std::int64_t{look.inset};
+    const std::int64_t height = look.height - 2 * std::int64_t{look.inset};
+    if (width < 1 || height < 1) return {0, 0, 0, 0};
+    return {look.inset, look.inset, static_cast<int>(width), static_cast<int>(height)};
+}
+
+// The word of each shade from -SPAN to SPAN.
+struct Shades {
+    DWORD words[2 * SPAN + 1];
+
+    explicit Shades(DWORD color) {
+        for (int shade = -SPAN; shade <= SPAN; shade++)
+            words[shade + SPAN] = (color & 0xFF000000u) | channel(color, 16, shade) |
+                                  channel(color, 8, shade) | channel(color, 0, shade);
+    }
+    static DWORD channel(DWORD color, int shift, int shade) {
+        const int value = static_cast<int>(color >> shift & 255) + shade;
+        return static_cast<DWORD>(std::clamp(value, 0, 255)) << shift;
+    }
+};
+
+// Darkest at the upper left. Columns are taken in blocks, so that their share of the shade is worked out once
+// for all rows.
+void shade(DWORD* pixels, const Look& look, const Inner& inner) {
+    constexpr int BLOCK = 256;
+    const Shades shades(look.color);
+    const float step_x = static_cast<float>(SPAN) / static_cast<float>(inner.width);
+    const float step_y = static_cast<float>(SPAN) / static_cast<float>(inner.height);
+    for (int start = 0; start < inner.width; start += BLOCK) {
+        const int count = std::min(BLOCK, inner.width - start);
+        float across[BLOCK];
+        for (int i = 0; i < count; i++)
+            across[i] = static_cast<float>(start + i) * step_x - SPAN / 2.0f;
+        DWORD* row = pixels + std::size_t(inner.top) * look.width + inner.left + start;
+        for (int j = 0; j < inner.height; j++, row += look.width) {
+            const float down = static_cast<float>(j) * step_y - SPAN / 2.0f;
+            for (int i = 0; i < count; i++)
+                row[i] = shades.words[static_cast<int>(across[i] + down) + SPAN];
+        }
+    }
+}
+
+} // namespace
+
+Look look_of(const Tools& control, const Colors& color) {
+    const std::int64_t border = control.Border ? std::abs(std::int64_t{control.Border}) : BORDER;
+    const int inset = static_cast<int>(std::clamp<std::int64_t>(border, 0, WIDEST_INSET));
+    return {std::max(control.Dim_X, 1), std::max(control.Dim_Y, 1), inset,
+            static_cast<DWORD>(color.get_invert()),
+            (Tool_Looks & 1) != 0 || (control.Flag & OUTIL_FLAT) != 0};
+}
+
+DWORD* surface_block(int width, int height) {
+    const std::int64_t count = std::int64_t{width} * height;
+    if (count < 1 || count > MOST_PIXELS) return nullptr;
+    return static_cast<DWORD*>(std::malloc(static_cast<std::size_t>(count) * sizeof(DWORD)));
+}
+
+DWORD* paint_look(const Look& look) {
+    DWORD* pixels = surface_block(look.width, look.height);
+    if (!pixels) return nullptr;
+    const Inner inner = inner_of(look);
+    if (look.flat || !inner.width) {
+        std::fill_n(pixels, std::size_t(look.width) * look.height, look.color);
+        return pixels;
+    }
+    // The margin is filled with the face's colour, for whoever shows it all the same.
+    DWORD* row = pixels;
+    for (int y = 0; y < look.height; y++, row += look.width) {
+        const bool crossed = y >= inner.top && y < inner.top + inner.height;
+        std::fill_n(row, crossed ? inner.left : look.width, look.color);
+        if (crossed) std::fill_n(row + inner.left + inner.width, look.inset, look.color);
+    }
+    shade(pixels, look, inner);
+    return pixels;
+}
