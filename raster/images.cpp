@@ -1,1 +1,105 @@
-// To be written.
+#include "images.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "area.h"
+
+namespace raster {
+namespace {
+
+// The part of a block that is painted: its place on the canvas and where it begins in the source.
+struct Block {
+    Rect area;
+    Point from;
+};
+
+// One axis of it, in 64 bits since sums of any two coordinates must fit.
+struct Range {
+    std::int64_t begin, end;
+};
+
+Range overlap(int low, int high, std::int64_t to, std::int64_t from, int size, int source_size) {
+    return {std::max({std::int64_t{low}, to, to - from}),
+            std::min({std::int64_t{high}, to + size, to - from + source_size})};
+}
+
+// An empty area when nothing is left.
+Block cut(const Rect& area, Point to, Point from, int width, int height, int source_width,
+          int source_height) {
+    const Range x = overlap(area.left, area.right, to.x, from.x, width, source_width);
+    const Range y = overlap(area.top, area.bottom, to.y, from.y, height, source_height);
+    if (x.begin >= x.end || y.begin >= y.end) return {};
+    return {{static_cast<int>(x.begin), static_cast<int>(y.begin), static_cast<int>(x.end),
+             static_cast<int>(y.end)},
+            {static_cast<int>(x.begin - to.x + from.x), static_cast<int>(y.begin - to.y + from.y)}};
+}
+
+const std::uint32_t* row_of(const Image& image, Point at) {
+    return image.pixels + static_cast<std::ptrdiff_t>(at.y) * image.pitch + at.x;
+}
+
+// x / 255 to the nearest, for x up to 255 * 255 in each half of the word.
+constexpr std::uint32_t divided(std::uint32_t halves) {
+    const std::uint32_t raised = halves + 0x00800080;
+    return (raised + (raised >> 8 & 0x00FF00FF)) >> 8 & 0x00FF00FF;
+}
+
+// Two channels at once in the halves of a word.
+constexpr std::uint32_t mix(std::uint32_t over, std::uint32_t under, std::uint32_t cover) {
+    const std::uint32_t even = divided((over & 0x00FF00FF) * cover + (under & 0x00FF00FF) * (255 - cover));
+    const std::uint32_t odd =
+        divided((over >> 8 & 0x00FF00FF) * cover + (under >> 8 & 0x00FF00FF) * (255 - cover));
+    return even | odd << 8;
+}
+
+void blend_row(std::uint32_t* to, const std::uint32_t* from, int count, std::uint32_t background) {
+    for (int i = 0; i < count; ++i)
+        to[i] = mix(from[i], background, from[i] >> 24) & 0x00FFFFFF;
+}
+
+void mask_row(std::uint32_t* to, const std::uint8_t* coverage, int count, std::uint32_t color) {
+    for (int i = 0; i < count; ++i)
+        to[i] = mix(color, to[i], coverage[i]);
+}
+
+} // namespace
+
+void copy(const Canvas& canvas, const Rect& clip, Point to, const Image& source, Point from, int width,
+          int height) {
+    if (!source.pixels) return;
+    const Block block = cut(paintable(canvas, clip), to, from, width, height, source.width, source.height);
+    const int rows = block.area.bottom - block.area.top;
+    const std::size_t size =
+        sizeof(std::uint32_t) * static_cast<std::size_t>(block.area.right - block.area.left);
+    // Downward within one canvas the lower rows go first, so that none is overwritten before it was read.
+    const bool lower_first = source.pixels == canvas.pixels && block.area.top > block.from.y;
+    for (int i = 0; i < rows; ++i) {
+        const int row = lower_first ? rows - 1 - i : i;
+        std::memmove(row_at(canvas, block.area.left, block.area.top + row),
+                     row_of(source, {block.from.x, block.from.y + row}), size);
+    }
+}
+
+void blend(const Canvas& canvas, const Rect& clip, Point to, const Image& source, Point from, int width,
+           int height, std::uint32_t background) {
+    if (!source.pixels) return;
+    const Block block = cut(paintable(canvas, clip), to, from, width, height, source.width, source.height);
+    for (int y = block.area.top; y < block.area.bottom; ++y)
+        blend_row(row_at(canvas, block.area.left, y),
+                  row_of(source, {block.from.x, block.from.y + y - block.area.top}),
+                  block.area.right - block.area.left, background);
+}
+
+void mask(const Canvas& canvas, const Rect& clip, Point to, const std::uint8_t* coverage, int width,
+          int height, int pitch, std::uint32_t color) {
+    if (!coverage) return;
+    const Block block = cut(paintable(canvas, clip), to, {0, 0}, width, height, width, height);
+    const std::uint8_t* row = coverage + static_cast<std::ptrdiff_t>(block.from.y) * pitch + block.from.x;
+    for (int y = block.area.top; y < block.area.bottom; ++y, row += pitch)
+        mask_row(row_at(canvas, block.area.left, y), row, block.area.right - block.area.left, color);
+}
+
+} // namespace raster

@@ -15,11 +15,12 @@ void polyline(const Canvas& canvas, const Rect& clip, const Point* points, int c
 void frame_rectangle(const Canvas& canvas, const Rect& clip, const Rect& rect, std::uint32_t color);
 void fill_rectangle(const Canvas& canvas, const Rect& clip, const Rect& rect, std::uint32_t color);
 // The inside by the even-odd rule, and the outline, both in one colour.
-void fill_polygon(const Canvas& canvas, const Rect& clip, const Point* points, int count, std::uint32_t color);
+void fill_polygon(const Canvas& canvas, const Rect& clip, const Point* points, int count,
+                  std::uint32_t color);
 // The arc of a circle, counterclockwise from `start` through `sweep` degrees, as AngleArc draws it after its
 // connecting line, which starts at `from`. Gives the point where the pen ends.
-Point angle_arc(const Canvas& canvas, const Rect& clip, Point from, Point center, std::uint32_t radius, float start,
-                float sweep, int pen_width, std::uint32_t color);
+Point angle_arc(const Canvas& canvas, const Rect& clip, Point from, Point center, std::uint32_t radius,
+                float start, float sweep, int pen_width, std::uint32_t color);
 
 } // namespace raster
 

@@ -1,0 +1,28 @@
+#ifndef RASTER_AREA_H
+#define RASTER_AREA_H
+
+#include <cstddef>
+
+#include "canvas.h"
+
+// What all painting shares: the part of the canvas that it may touch.
+namespace raster {
+
+inline Rect paintable(const Canvas& canvas, const Rect& clip) {
+    return canvas.pixels ? intersect(clip, {0, 0, canvas.width, canvas.height}) : Rect{};
+}
+
+inline std::uint32_t* row_at(const Canvas& canvas, int x, int y) {
+    return canvas.pixels + static_cast<std::ptrdiff_t>(y) * canvas.pitch + x;
+}
+
+// `area` lies within the canvas.
+inline void fill_area(const Canvas& canvas, const Rect& area, std::uint32_t color) {
+    if (is_empty(area)) return;
+    for (int y = area.top; y < area.bottom; ++y)
+        std::fill_n(row_at(canvas, area.left, y), area.right - area.left, color);
+}
+
+} // namespace raster
+
+#endif
