@@ -16,6 +16,10 @@
 #include "portable/gdi.h"
 
 #include "portable/window.h"
+
+#include "portable/input.h"
+
+#include "portable/process.h"
 #endif
 
 #endif

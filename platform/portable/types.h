@@ -25,6 +25,8 @@ typedef std::uint16_t USHORT;
 typedef char CHAR;
 typedef wchar_t WCHAR;
 typedef float FLOAT;
+typedef std::uint64_t ULONGLONG;
+typedef std::int64_t LONGLONG;
 typedef void VOID;
 typedef void* LPVOID;
 typedef void* PVOID;
@@ -45,6 +47,7 @@ typedef const char* LPCSTR;
 typedef wchar_t* LPWSTR;
 typedef const wchar_t* LPCWSTR;
 typedef BYTE* LPBYTE;
+typedef BYTE* PBYTE;
 typedef DWORD* LPDWORD;
 typedef LPCWSTR LPCTSTR;
 typedef LPWSTR LPTSTR;
@@ -55,6 +58,8 @@ typedef WCHAR TCHAR;
 #define FALSE 0
 #endif
 #define MAX_PATH 260
+#define TEXT(text) L##text
+#define UNREFERENCED_PARAMETER(name) ((void)(name))
 
 // Handles: pointers to types of their own, so that the compiler tells them apart.
 #define PLATFORM_HANDLE(name)                                                                                \
@@ -65,6 +70,7 @@ PLATFORM_HANDLE(HDC);
 PLATFORM_HANDLE(HINSTANCE);
 PLATFORM_HANDLE(HMENU);
 PLATFORM_HANDLE(HICON);
+PLATFORM_HANDLE(HRGN);
 typedef HINSTANCE HMODULE;
 typedef HICON HCURSOR;
 typedef HANDLE HGLOBAL;
@@ -102,21 +108,14 @@ typedef RECT* LPRECT;
 extern "C" {
 PLATFORM_API BOOL SetRect(RECT* rect, int left, int top, int right, int bottom);
 PLATFORM_API BOOL PtInRect(const RECT* rect, POINT point); // far edges are outside
-
-struct CRITICAL_SECTION {
-    void* state; // a recursive mutex; made by InitializeCriticalSection
-};
-PLATFORM_API void InitializeCriticalSection(CRITICAL_SECTION* section);
-PLATFORM_API void EnterCriticalSection(CRITICAL_SECTION* section);
-PLATFORM_API void LeaveCriticalSection(CRITICAL_SECTION* section);
-PLATFORM_API void DeleteCriticalSection(CRITICAL_SECTION* section);
-
-PLATFORM_API DWORD GetModuleFileNameW(HMODULE module, LPWSTR path, DWORD size);
-PLATFORM_API HMODULE GetModuleHandleW(LPCWSTR name);
-PLATFORM_API DWORD GetTickCount();
-PLATFORM_API void Sleep(DWORD milliseconds);
+PLATFORM_API BOOL SetRectEmpty(RECT* rect);
+PLATFORM_API BOOL CopyRect(RECT* to, const RECT* from);
+PLATFORM_API BOOL OffsetRect(RECT* rect, int dx, int dy);
+PLATFORM_API BOOL InflateRect(RECT* rect, int dx, int dy);
+PLATFORM_API BOOL IsRectEmpty(const RECT* rect);
+PLATFORM_API BOOL EqualRect(const RECT* a, const RECT* b);
+PLATFORM_API BOOL IntersectRect(RECT* to, const RECT* a, const RECT* b); // FALSE and empty: nothing in common
+PLATFORM_API BOOL UnionRect(RECT* to, const RECT* a, const RECT* b);     // an empty one does not count
 }
-#define GetModuleFileName GetModuleFileNameW
-#define GetModuleHandle GetModuleHandleW
 
 #endif

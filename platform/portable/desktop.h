@@ -1,0 +1,36 @@
+#ifndef PLATFORM_PORTABLE_DESKTOP_H
+#define PLATFORM_PORTABLE_DESKTOP_H
+
+#include "raster/canvas.h"
+#include "window_state.h"
+
+// What the windows ask of a real desktop. It is opened by the first desktop_show; until then, and when there
+// is none, every other function does nothing.
+namespace platform {
+
+// Puts the window on the screen in its layout; false: there is no desktop, it stays in memory.
+bool desktop_show(HWND wnd, Window& window);
+void desktop_hide(Window& window);
+void desktop_end(Window& window);
+
+void desktop_set_title(Window& window);
+void desktop_set_size(Window& window);
+void desktop_set_position(Window& window);
+void desktop_set_topmost(Window& window, bool topmost);
+void desktop_raise(Window& window);
+void desktop_set_capture(bool capture);
+// An index into the standard cursors (see cursor.h); -1: hidden.
+void desktop_set_cursor(int index);
+
+// Copies what changed to the screen.
+void desktop_present(Window& window);
+// Reports everything that waits on the desktop's side.
+void desktop_pump();
+// Waits for the desktop, or a wake, at most so many milliseconds (-1: for ever); false: there is no desktop.
+bool desktop_wait(int milliseconds);
+// From any thread.
+void desktop_wake();
+
+} // namespace platform
+
+#endif
