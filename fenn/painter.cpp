@@ -27,17 +27,10 @@ struct State {
 };
 State state;
 
-bool is_empty(const raster::Rect& rect) { return rect.left >= rect.right || rect.top >= rect.bottom; }
-
 raster::Rect whole(const raster::Canvas& canvas) { return {0, 0, canvas.width, canvas.height}; }
 
-raster::Rect cut(const raster::Rect& a, const raster::Rect& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-            std::min(a.bottom, b.bottom)};
-}
-
 void add(const raster::Rect& rect, const raster::Rect& limit) {
-    const raster::Rect part = cut(rect, limit);
+    const raster::Rect part = raster::intersect(rect, limit);
     if (is_empty(part)) return;
     raster::Rect& all = state.changed;
     all = is_empty(all) ? part
@@ -131,7 +124,7 @@ FENN_API void Zeb_set_clip(int x, int y, int width, int height) {
     const raster::Canvas& canvas = state.bracket.canvas;
     const std::int64_t bottom = std::int64_t{canvas.height} - y;
     const raster::Rect rect{limit(x), limit(bottom - height), limit(std::int64_t{x} + width), limit(bottom)};
-    const raster::Rect clip = cut(rect, whole(canvas));
+    const raster::Rect clip = raster::intersect(rect, whole(canvas));
     set_clip(is_empty(clip) ? nothing : clip, false);
 }
 

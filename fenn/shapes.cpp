@@ -126,7 +126,7 @@ FENN_API void draw_image(const char* pixels, int x, int y, int source_x, int sou
     if (left != limit(left) || top != limit(top)) return; // far outside: nothing of it can be seen
 
     const auto words = reinterpret_cast<const std::uint32_t*>(pixels);
-    const raster::Canvas image{const_cast<std::uint32_t*>(words), image_width, image_height, image_width};
+    const raster::Image image{words, image_width, image_height, image_width};
     const raster::Point to{static_cast<int>(left), static_cast<int>(top)};
     const raster::Point from{static_cast<int>(columns.source), static_cast<int>(rows.source)};
     const int wide = static_cast<int>(columns.size);

@@ -53,6 +53,9 @@ void compare(const std::string& conversion, std::initializer_list<Value> values)
     });
 }
 
+// The C library of Windows has other forms in places; the other system's are taken as the measure.
+#ifndef _WIN32
+
 TEST(Numbers, SignedAsTheCLibrary) {
     compare<int>("d", {0, 1, -1, 42, -12345, INT_MAX, INT_MIN});
     compare<int>("i", {0, -7});
@@ -74,14 +77,6 @@ TEST(Numbers, UnsignedAsTheCLibrary) {
         compare<std::size_t>(std::string("z") + base, {std::size_t(0), SIZE_MAX});
     }
 }
-
-TEST(Numbers, I64IsSixtyFourBits) {
-    EXPECT_EQ(ours("%I64d|%I64u|%I64X", LLONG_MIN, ULLONG_MAX, 0xFEDCBA9876543210ull),
-              "-9223372036854775808|18446744073709551615|FEDCBA9876543210");
-}
-
-// The C library of Windows has other forms in places; the other system's are taken as the measure.
-#ifndef _WIN32
 
 TEST(Numbers, FloatsAsTheCLibrary) {
     const auto infinity = std::numeric_limits<double>::infinity();
@@ -138,6 +133,24 @@ TEST(Numbers, ManyPlacesAsTheCLibrary) {
 }
 
 #endif
+
+TEST(Numbers, I64IsSixtyFourBits) {
+    EXPECT_EQ(ours("%I64d|%I64u|%I64X", LLONG_MIN, ULLONG_MAX, 0xFEDCBA9876543210ull),
+              "-9223372036854775808|18446744073709551615|FEDCBA9876543210");
+}
+
+TEST(Numbers, LongsHaveTheSystemsSize) {
+    EXPECT_EQ(ours("%ld|%lu|%zu|%zd", LONG_MIN, ULONG_MAX, SIZE_MAX, PTRDIFF_MIN),
+              std::to_string(LONG_MIN) + "|" + std::to_string(ULONG_MAX) + "|" + std::to_string(SIZE_MAX) +
+                  "|" + std::to_string(PTRDIFF_MIN));
+}
+
+TEST(Numbers, FormsThatEverySystemPrints) {
+    EXPECT_EQ(ours("[%+d % d %05d %-5d]", 7, 7, -42, 3), "[+7  7 -0042 3    ]");
+    EXPECT_EQ(ours("[%08X %#x %#o %.3u]", 0xABCu, 255u, 8u, 7u), "[00000ABC 0xff 010 007]");
+    EXPECT_EQ(ours("[%.3f %8.2f %-8.1f %08.3f %e %g %G]", 3.14159, 2.5, 0.25, -1.5, 12345.678, 0.0001, 1e-10),
+              "[3.142     2.50 0.2      -001.500 1.234568e+04 0.0001 1E-10]");
+}
 
 TEST(Numbers, LongDoublesAreTaken) { EXPECT_EQ(ours("%Lf %d", 1.25L, 7), "1.250000 7"); }
 
