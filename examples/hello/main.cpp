@@ -22,12 +22,15 @@ static void place(HWND wnd) {
     button.Init(wnd);
 }
 
-// Gives a mouse message to the button: the position first, then the event word. 1 when it is on the button.
-static int point(HWND wnd, int event, LPARAM position) {
+// One mouse message: the position goes to the drawing layer first, then the event word to the button.
+static void mouse(HWND wnd, int event, LPARAM position) {
     Zeb_setup(wnd, "hello");
     set_curs(short(LOWORD(position)), short(HIWORD(position)));
     Zeb_release();
-    return button.Select(event + 16 * getbutton(VK_LBUTTON));
+    if (button.Select(event + 16 * getbutton(VK_LBUTTON)) && event == 2) {
+        button.Cur_Value = !button.Cur_Value;
+        button.Adjust();
+    }
 }
 
 static LRESULT CALLBACK procedure(HWND wnd, UINT message, WPARAM wparam, LPARAM lparam) {
@@ -43,14 +46,9 @@ static LRESULT CALLBACK procedure(HWND wnd, UINT message, WPARAM wparam, LPARAM 
         button.Draw();
         EndPaint(wnd, &paint);
         return 0;
-    case WM_MOUSEMOVE: point(wnd, wparam & MK_LBUTTON ? 1 : 0, lparam); return 0;
-    case WM_LBUTTONUP: point(wnd, 0, lparam); return 0;
-    case WM_LBUTTONDOWN:
-        if (point(wnd, 2, lparam)) {
-            button.Cur_Value = !button.Cur_Value;
-            button.Adjust();
-        }
-        return 0;
+    case WM_MOUSEMOVE: mouse(wnd, wparam & MK_LBUTTON ? 1 : 0, lparam); return 0;
+    case WM_LBUTTONDOWN: mouse(wnd, 2, lparam); return 0;
+    case WM_LBUTTONUP: mouse(wnd, 0, lparam); return 0;
     case WM_DESTROY: PostQuitMessage(0); return 0;
     }
     return DefWindowProcW(wnd, message, wparam, lparam);
