@@ -1,12 +1,12 @@
 #include <brask/fonts.h>
 
 #include <cstring>
-#include <cwchar>
 
 #include <brask/fenn.h>
 
 #include "foundation/pixels.h"
 #include "foundation/trace.h"
+#include "text/unicode.h"
 
 namespace {
 
@@ -79,14 +79,27 @@ LONG height_of(HWND wnd, int size) {
     return point.y;
 }
 
+// As much of a family's name as has room. Done without the drawing layer's converter, whose one buffer is not
+// for several threads.
+void name_face(LOGFONTW& font, const char* name) {
+    constexpr int room = sizeof font.lfFaceName / sizeof *font.lfFaceName;
+    int length = 0;
+    while (const char32_t code = text::next(name)) {
+        wchar_t units[2];
+        const int count = text::put(code, units);
+        if (length + count >= room) break;
+        for (int i = 0; i < count; i++)
+            font.lfFaceName[length++] = units[i];
+    }
+}
+
 LOGFONTW describe(HWND wnd, const char* name, const char* weight, const char* slant, int size) {
     LOGFONTW font = {};
     const LONG height = height_of(wnd, size);
     font.lfHeight = height < 0 ? height : -height;
     font.lfWeight = weight && !std::strcmp(weight, "bold") ? 700 : 0;
     font.lfItalic = slant && (!std::strcmp(slant, "i") || !std::strcmp(slant, "o"));
-    constexpr std::size_t room = sizeof font.lfFaceName / sizeof *font.lfFaceName;
-    std::wcsncpy(font.lfFaceName, name ? Char_2_Wchar(name) : L"Arial", room - 1);
+    name_face(font, name ? name : "Arial");
     return font;
 }
 

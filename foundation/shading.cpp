@@ -4,6 +4,10 @@
 #include <cstdint>
 #include <cstdlib>
 
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
+
 #include "foundation/pixels.h"
 
 namespace {
@@ -41,25 +45,78 @@ struct Shades {
     }
 };
 
-// Darkest at the upper left. Columns are taken in blocks, so that their share of the shade is worked out once
-// for all rows.
-void shade(DWORD* pixels, const Look& look, const Inner& inner) {
-    constexpr int BLOCK = 256;
-    const Shades shades(look.color);
+constexpr int EIGHT = 8;
+
+// --- Eight pixels at once, where the processor can. Exactly the same words as from the table. -------------
+
+#if defined(__x86_64__) && defined(__ELF__) // elsewhere the stack need not be aligned for such registers
+bool wide_registers() {
+    static const bool there = __builtin_cpu_supports("avx2");
+    return there;
+}
+
+// At least eight pixels; the last eight overlap those before them.
+__attribute__((target("avx2"))) void shade_eights(DWORD* row, const float* across, float down, int count,
+                                                  DWORD color) {
+    // Turned by 128 the channels are signed bytes, whose saturating sum stops just at the ends of the range.
+    const __m256i turn = _mm256_set1_epi32(0x00808080);
+    const __m256i base = _mm256_xor_si256(_mm256_set1_epi32(static_cast<int>(color)), turn);
+    const __m256 downs = _mm256_set1_ps(down);
+    // The low byte of each number goes into the three channels of its pixel.
+    const __m256i channels = _mm256_set_epi8(-1, 12, 12, 12, -1, 8, 8, 8, -1, 4, 4, 4, -1, 0, 0, 0, //
+                                             -1, 12, 12, 12, -1, 8, 8, 8, -1, 4, 4, 4, -1, 0, 0, 0);
+    for (int i = 0; i < count; i += EIGHT) {
+        const int at = std::min(i, count - EIGHT);
+        const __m256i shade = _mm256_cvttps_epi32(_mm256_add_ps(_mm256_loadu_ps(across + at), downs));
+        const __m256i sum = _mm256_adds_epi8(base, _mm256_shuffle_epi8(shade, channels));
+        _mm256_storeu_si256(reinterpret_cast<__m256i*>(row + at), _mm256_xor_si256(sum, turn));
+    }
+}
+#else
+bool wide_registers() { return false; }
+void shade_eights(DWORD*, const float*, float, int, DWORD) {}
+#endif
+
+// --- Any processor
+// ------------------------------------------------------------------------------------------
+
+// One stretch of a row: the shade of each pixel is its column's share and the row's, cut toward zero.
+void shade_stretch(DWORD* row, const float* across, float down, int count, const Shades& shades) {
+    for (int i = 0; i < count; i++)
+        row[i] = shades.words[static_cast<int>(across[i] + down) + SPAN];
+}
+
+// Columns are taken in blocks, so that their share of the shade is worked out once for all rows. The last
+// block reaches back into the one before it.
+template <typename Stretch>
+void shade_rows(DWORD* pixels, const Look& look, const Inner& inner, Stretch stretch) {
+    constexpr int BLOCK = 2048;
     const float step_x = static_cast<float>(SPAN) / static_cast<float>(inner.width);
     const float step_y = static_cast<float>(SPAN) / static_cast<float>(inner.height);
+    const int count = std::min(BLOCK, inner.width);
     for (int start = 0; start < inner.width; start += BLOCK) {
-        const int count = std::min(BLOCK, inner.width - start);
+        const int first = std::min(start, inner.width - count);
         float across[BLOCK];
         for (int i = 0; i < count; i++)
-            across[i] = static_cast<float>(start + i) * step_x - SPAN / 2.0f;
-        DWORD* row = pixels + std::size_t(inner.top) * look.width + inner.left + start;
-        for (int j = 0; j < inner.height; j++, row += look.width) {
-            const float down = static_cast<float>(j) * step_y - SPAN / 2.0f;
-            for (int i = 0; i < count; i++)
-                row[i] = shades.words[static_cast<int>(across[i] + down) + SPAN];
-        }
+            across[i] = static_cast<float>(first + i) * step_x - SPAN / 2.0f;
+        DWORD* row = pixels + std::size_t(inner.top) * look.width + inner.left + first;
+        for (int j = 0; j < inner.height; j++, row += look.width)
+            stretch(row, across, static_cast<float>(j) * step_y - SPAN / 2.0f, count);
     }
+}
+
+// Darkest at the upper left.
+void shade(DWORD* pixels, const Look& look, const Inner& inner) {
+    if (inner.width >= EIGHT && wide_registers()) {
+        shade_rows(pixels, look, inner, [&](DWORD* row, const float* across, float down, int count) {
+            shade_eights(row, across, down, count, look.color);
+        });
+        return;
+    }
+    const Shades shades(look.color);
+    shade_rows(pixels, look, inner, [&](DWORD* row, const float* across, float down, int count) {
+        shade_stretch(row, across, down, count, shades);
+    });
 }
 
 } // namespace
