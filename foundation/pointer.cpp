@@ -82,22 +82,30 @@ constexpr unsigned char SHAPE_NONE = 0, SHAPE_GIVEN = 1, SHAPE_DRAG = 3, SHAPE_C
 
 HCURSOR show_busy() { return SetCursor(LoadCursorW(nullptr, IDC_WAIT)); }
 
-// Shows a cursor as a shape of that kind; while busy it is dropped, not queued.
+// A shape asked for while busy is dropped, not queued.
+bool dropped() {
+    if (Wait) show_busy();
+    return Wait != 0;
+}
+
 void show_shape(HCURSOR cursor, unsigned char shape) {
-    if (Wait) {
-        show_busy();
-        return;
-    }
     Saved_Shape = SetCursor(cursor);
     Shape = shape;
 }
 
+void show_standard(LPCWSTR name, unsigned char shape) {
+    if (!dropped()) show_shape(LoadCursorW(nullptr, name), shape);
+}
+
 } // namespace
 
-void Set_Curs(HWND, void* cursor) { show_shape(static_cast<HCURSOR>(cursor), SHAPE_GIVEN); }
-void Set_Curs_Arrow(HWND) { show_shape(LoadCursorW(nullptr, IDC_ARROW), SHAPE_ARROW); }
-void Set_Curs_Cross(HWND) { show_shape(LoadCursorW(nullptr, IDC_CROSS), SHAPE_CROSS); }
-void Set_Curs_Drag(HWND) { show_shape(LoadCursorW(nullptr, IDC_ARROW), SHAPE_DRAG); }
+void Set_Curs(HWND, void* cursor) {
+    if (!dropped()) show_shape(static_cast<HCURSOR>(cursor), SHAPE_GIVEN);
+}
+
+void Set_Curs_Arrow(HWND) { show_standard(IDC_ARROW, SHAPE_ARROW); }
+void Set_Curs_Cross(HWND) { show_standard(IDC_CROSS, SHAPE_CROSS); }
+void Set_Curs_Drag(HWND) { show_standard(IDC_ARROW, SHAPE_DRAG); }
 
 void Set_Curs_Wait(HWND wnd) {
     if (Wait) {
