@@ -31,11 +31,11 @@ void expect_copy(const Screen& screen, int screen_width, int screen_height, cons
                  int y, int source_x, int source_y, int w, int h) {
     for (int py = 0; py < screen_height; ++py)
         for (int px = 0; px < screen_width; ++px) {
-            const int i = px - x, j = y + h - 1 - py;
-            const int sx = source_x + i, sy = source_y + j;
+            const long long i = px - x, j = y + 0LL + h - 1 - py;
+            const long long sx = source_x + i, sy = source_y + j;
             const bool covered = i >= 0 && i < w && j >= 0 && j < h && sx >= 0 && sx < surface.width &&
                                  sy >= 0 && sy < surface.height;
-            ASSERT_EQ(screen.at(px, py), covered ? Surface::pixel(sx, sy) : 0u)
+            ASSERT_EQ(screen.at(px, py), covered ? Surface::pixel(int(sx), int(sy)) : 0u)
                 << "pixel " << px << ", " << py << " of draw_image(" << x << ", " << y << ", " << source_x
                 << ", " << source_y << ", " << w << ", " << h << ")";
         }
