@@ -9,15 +9,12 @@
 #include "foundation/trace.h"
 #include "foundation/track.h"
 
+using namespace brask;
+
 namespace {
 
 // No field can change the colour of the selected look.
 Colors highlight() { return Colors(230, 100, 100); }
-
-// The area less so many pixels on each side.
-Area inside(const Area& area, int left, int right, int bottom, int top) {
-    return {Px(area.x1) + left, Px(area.x2) - right, Px(area.y1) + bottom, Px(area.y2) - top};
-}
 
 // At the top, unless the host says otherwise.
 void paint_title(Boxs& box) {
@@ -39,34 +36,20 @@ void paint_face(Boxs& box, bool selected) {
 // Chooses between the host's surfaces and generated faces, and makes those that changed. `wnd` is the
 // argument of Init.
 void choose_surfaces(Boxs& box, HWND wnd) {
-    const bool all = reshaped(box, wnd);
-    const bool normal = all || box.Graph_Normal != box.Old_Graph_Normal;
-    const bool select = all || box.Graph_Select != box.Old_Graph_Select;
-    if (box.Graph_Normal && normal) box.Image_Normal = box.Graph_Normal;
-    if (box.Graph_Select && select) box.Image_Select = box.Graph_Select;
-    if (!box.Graph_Normal && (normal || recolored(box) || faces::outgrown(box.Box_Normal, box))) {
+    const Anew anew = surfaces_anew(box, wnd);
+    if (box.Graph_Normal && anew.normal) box.Image_Normal = box.Graph_Normal;
+    if (box.Graph_Select && anew.select) box.Image_Select = box.Graph_Select;
+    if (!box.Graph_Normal && (anew.normal || recolored(box) || faces::outgrown(box.Box_Normal, box))) {
         box.Box_Normal = faces::drop(box.Box_Normal);
         box.Image_Normal = box.Box_Normal = faces::ask(box, box.Color);
     }
-    if (!box.Graph_Select && (select || faces::outgrown(box.Box_Select, box))) {
+    if (!box.Graph_Select && (anew.select || faces::outgrown(box.Box_Select, box))) {
         box.Box_Select = faces::drop(box.Box_Select);
         box.Image_Select = box.Box_Select = faces::ask(box, highlight());
     }
 }
 
 } // namespace
-
-Box_Face box_face(const Boxs& box) {
-    const Area whole = whole_area(box);
-    // 5 and 6: the inner frame has the same step at its bottom.
-    if (box.Flag & BOX_INSET) return {Px(BORDER) + 1, inside(whole, 5, 5, 6, 5)};
-    return {Px(bevel_width(box)) + 1, whole};
-}
-
-Area box_inner_frame(const Boxs& box) {
-    if (box.Flag & BOX_RAISED) return inside(whole_area(box), 6, 6, 5, 6);
-    return inside(whole_area(box), 5, 6, 6, 6);
-}
 
 Boxs::Boxs() {
     Trace trace("Boxs::Boxs");

@@ -5,6 +5,8 @@
 
 #include "foundation/layout.h"
 
+namespace brask {
+
 // The rectangles of a box: painting and tests go by the same ones.
 
 // Where the face is painted, and the number that insets it there.
@@ -16,5 +18,7 @@ Box_Face box_face(const Boxs& box);
 
 // The inner frame of BOX_INSET.
 Area box_inner_frame(const Boxs& box);
+
+} // namespace brask
 
 #endif

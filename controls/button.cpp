@@ -11,9 +11,9 @@
 #include "foundation/trace.h"
 #include "foundation/track.h"
 
-namespace {
+using namespace brask;
 
-constexpr int LAMP_WIDTH = 8; // also what the label gives way by
+namespace {
 
 // The selected look of every button is red, whatever its colour.
 Colors highlight() { return Colors(230, 100, 100); }
@@ -45,20 +45,20 @@ void remake(const Buttons& button, DWORD*& off, DWORD*& on, const Colors& color_
 // Chooses between the host's surfaces and generated faces, and makes those that changed. `wnd` is the
 // argument of Init.
 void choose_surfaces(Buttons& b, HWND wnd) {
-    const bool all = reshaped(b, wnd);
-    const bool normal = all || b.Graph_Normal != b.Old_Graph_Normal;
-    const bool select = all || b.Graph_Select != b.Old_Graph_Select;
+    const Anew anew = surfaces_anew(b, wnd);
     const auto outgrown = [&b](DWORD* off, DWORD* on) {
         return faces::outgrown(off, b) || faces::outgrown(on, b);
     };
-    if (b.Graph_Normal && normal) b.Image_Normal = b.Image_Normal_Off = b.Image_Normal_On = b.Graph_Normal;
-    if (b.Graph_Select && select) b.Image_Select = b.Image_Select_Off = b.Image_Select_On = b.Graph_Select;
-    if (!b.Graph_Normal && (normal || recolored(b) || outgrown(b.Own_Normal_Off, b.Own_Normal_On))) {
+    if (b.Graph_Normal && anew.normal)
+        b.Image_Normal = b.Image_Normal_Off = b.Image_Normal_On = b.Graph_Normal;
+    if (b.Graph_Select && anew.select)
+        b.Image_Select = b.Image_Select_Off = b.Image_Select_On = b.Graph_Select;
+    if (!b.Graph_Normal && (anew.normal || recolored(b) || outgrown(b.Own_Normal_Off, b.Own_Normal_On))) {
         remake(b, b.Own_Normal_Off, b.Own_Normal_On, b.Color, down(b.Color));
         b.Image_Normal_Off = b.Own_Normal_Off;
         b.Image_Normal_On = b.Own_Normal_On;
     }
-    if (!b.Graph_Select && (select || outgrown(b.Own_Select_Off, b.Own_Select_On))) {
+    if (!b.Graph_Select && (anew.select || outgrown(b.Own_Select_Off, b.Own_Select_On))) {
         remake(b, b.Own_Select_Off, b.Own_Select_On, highlight(), highlight_down());
         b.Image_Select_Off = b.Own_Select_Off;
         b.Image_Select_On = b.Own_Select_On;
@@ -122,26 +122,6 @@ void paint_look(Buttons& button, bool selected) {
 }
 
 } // namespace
-
-int button_bevel(const Buttons& button) {
-    return button.Border < 0 ? -Px(button.Border) : Px(bevel_width(button));
-}
-
-Button_Lamp button_lamp(const Buttons& button) {
-    const Px b = button_bevel(button), y = button.Pos_Y, height = button.Dim_Y;
-    const Px room = std::min(button.Dim_Y, BUT_DIM);
-    const Px gap = 2 * b + 4;
-    const int bevel = std::max<int>(b - 1, 1);
-    // In a low button the bottom lies above the top: nothing guards against that.
-    const Px left = Px(button.Pos_X) + SPACE, right = left + LAMP_WIDTH;
-    const Px bottom = y + ((height + gap - room) >> 1), top = y + ((height - gap + room) >> 1);
-    return {bevel, {left, right, bottom, top}, {left + bevel, right - bevel, bottom + bevel, top - bevel}};
-}
-
-Button_Label button_label(const Buttons& button) {
-    const int shift = button.Flag & BUTTON_LAMP ? LAMP_WIDTH : 0;
-    return {Px(button.Pos_X) + shift, button.Pos_Y, Px(button.Dim_X) - shift, button.Dim_Y};
-}
 
 Buttons::Buttons() {
     Trace trace("Buttons::Buttons");

@@ -5,6 +5,8 @@
 
 #include "foundation/layout.h"
 
+namespace brask {
+
 // The rectangles of a button: painting and tests go by the same ones.
 
 // The bevel's width, without its sign.
@@ -22,5 +24,7 @@ struct Button_Label {
     int x, y, dx, dy;
 };
 Button_Label button_label(const Buttons& button);
+
+} // namespace brask
 
 #endif

@@ -9,6 +9,8 @@
 #include "foundation/layout.h"
 #include "foundation/trace.h"
 
+using namespace brask;
+
 Labels::Labels() {
     Trace trace("Labels::Labels");
     std::memset(static_cast<void*>(this), 0, sizeof *this);

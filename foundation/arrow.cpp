@@ -4,6 +4,8 @@
 #include "foundation/pixels.h"
 #include "foundation/trace.h"
 
+using namespace brask;
+
 namespace {
 
 constexpr unsigned long FACE = 0x6E6E6E;

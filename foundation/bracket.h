@@ -4,6 +4,8 @@
 #include <brask/fenn.h>
 #include <brask/tools.h>
 
+namespace brask {
+
 // The drawing layer's pairs as objects, closed on every way out.
 
 class Setup {
@@ -38,5 +40,7 @@ inline POINT read_pointer(const Tools& control, const char* tag) {
     int x, y;
     return read_curs(&x, &y);
 }
+
+} // namespace brask
 
 #endif

@@ -2,6 +2,8 @@
 
 #include "foundation/trace.h"
 
+namespace brask {
+
 void warn_first_use(Tools& control, const char* type) {
     Error_Fct(hwnd, REPORT_FIRST_USE, "Tools: WARNING ! ");
     // A name given before Init leaves its bit, and so the object does not look untouched.
@@ -18,3 +20,5 @@ bool missing_window(const Tools& control, const char* type) {
     Error_Fct(hwnd, REPORT_WARNING, "   type: %hs   name: %ls", type, report_name(control));
     return true;
 }
+
+} // namespace brask

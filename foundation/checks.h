@@ -3,6 +3,8 @@
 
 #include <brask/tools.h>
 
+namespace brask {
+
 // The tests that every operation begins with. `type` names the operation in the warning.
 
 // Bits of Tools::test.
@@ -21,5 +23,7 @@ inline bool too_small(const Tools& control) { return control.Dim_X < 1 || contro
 
 // Warns, at every Init, of a control that has no window to paint in.
 bool missing_window(const Tools& control, const char* type);
+
+} // namespace brask
 
 #endif

@@ -2,6 +2,8 @@
 
 #include "foundation/pixels.h"
 
+using namespace brask;
+
 namespace {
 
 constexpr short low_byte(unsigned long word) { return static_cast<short>(word & 255); }

@@ -6,6 +6,8 @@
 
 #include "foundation/trace.h"
 
+namespace brask {
+
 namespace {
 
 // One face, in two chains: found by its pixels when it is shown, and by its look when one like it is wanted.
@@ -115,13 +117,6 @@ Face* make(const Look& look) {
 
 } // namespace
 
-// Both ways to a face report themselves alike.
-DWORD* Tools::Inside_3D(Colors color) {
-    Trace trace("Tools::Inside_3D", *this);
-    const Look look = look_of(*this, color);
-    return trace.out(look.flat ? "no 3D" : "", paint_look(look));
-}
-
 namespace faces {
 
 DWORD* ask(const Tools& control, const Colors& color) {
@@ -160,3 +155,5 @@ bool outgrown(const void* image, const Tools& control) {
 }
 
 } // namespace faces
+
+} // namespace brask

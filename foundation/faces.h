@@ -3,6 +3,8 @@
 
 #include <brask/tools.h>
 
+namespace brask {
+
 // Generated faces: surfaces that know their size, have counted owners, and are shared by all controls that
 // want the same pixels. Two hundred equal buttons have four of them in all, which the processor's caches
 // keep. They are given by their pixels, a block from malloc.
@@ -39,5 +41,7 @@ DWORD* drop(DWORD* face);
 bool outgrown(const void* image, const Tools& control);
 
 } // namespace faces
+
+} // namespace brask
 
 #endif

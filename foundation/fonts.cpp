@@ -8,6 +8,8 @@
 #include "foundation/trace.h"
 #include "text/unicode.h"
 
+using namespace brask;
+
 namespace {
 
 constexpr unsigned REPORT_FONTS = 0x90004009;

@@ -3,6 +3,8 @@
 #include "foundation/pixels.h"
 #include "foundation/surfaces.h"
 
+namespace brask {
+
 void default_color(Tools& control) {
     if (control.Color == Colors()) control.Color = Colors(170, 170, 170);
 }
@@ -12,9 +14,13 @@ void set_region(Tools& control) {
     SetRect(&control.Region, area.x1, area.y1, Px(area.x2) + 1, Px(area.y2) + 1);
 }
 
-bool reshaped(const Tools& control, HWND wnd) {
-    return wnd || control.Dim_X != control.Old_Dim_X || control.Dim_Y != control.Old_Dim_Y ||
-           control.Border != control.Old_Border;
+Anew surfaces_anew(const Tools& control, HWND wnd) {
+    const bool reshaped = control.Dim_X != control.Old_Dim_X || control.Dim_Y != control.Old_Dim_Y ||
+                          control.Border != control.Old_Border;
+    const bool all = wnd || reshaped;
+    // A host's surface that was taken away counts as well: the face it hid is wanted now.
+    return {all || control.Graph_Normal != control.Old_Graph_Normal,
+            all || control.Graph_Select != control.Old_Graph_Select};
 }
 
 bool recolored(const Tools& control) { return control.Color_Get() != control.Old_Color; }
@@ -36,3 +42,5 @@ Area whole_area(const Tools& control) {
     return {control.Pos_X, Px(control.Pos_X) + control.Dim_X, control.Pos_Y,
             Px(control.Pos_Y) + control.Dim_Y};
 }
+
+} // namespace brask

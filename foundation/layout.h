@@ -5,6 +5,8 @@
 
 #include "foundation/pixels.h"
 
+namespace brask {
+
 // The steps that the controls' Init operations share.
 
 // A control cannot be black by way of its face colour: black stands for the default grey.
@@ -12,8 +14,11 @@ void default_color(Tools& control);
 // The hit rectangle: the far edges of the control count as inside.
 void set_region(Tools& control);
 
-// Must everything be built anew? `wnd` is the argument of Init.
-bool reshaped(const Tools& control, HWND wnd);
+// Which of the looks an Init has to choose a surface for; `wnd` is its argument.
+struct Anew {
+    bool normal, select;
+};
+Anew surfaces_anew(const Tools& control, HWND wnd);
 // Is the face colour another one than at the last Init?
 bool recolored(const Tools& control);
 // What the next Init compares with: size, bevel and colour; and in the second form the surfaces as well.
@@ -24,5 +29,7 @@ void remember_surfaces(Tools& control);
 Area whole_area(const Tools& control);
 // The bevel's width as it stands, with its sign.
 inline int bevel_width(const Tools& control) { return control.Border ? control.Border : BORDER; }
+
+} // namespace brask
 
 #endif

@@ -9,6 +9,8 @@
 #include "foundation/trace.h"
 #include "text/format.h"
 
+using namespace brask;
+
 namespace {
 
 constexpr int NAME_ROOM = 1024;  // of a formatted name

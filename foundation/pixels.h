@@ -1,6 +1,8 @@
 #ifndef FOUNDATION_PIXELS_H
 #define FOUNDATION_PIXELS_H
 
+namespace brask {
+
 // A pixel coordinate or length whose arithmetic wraps at 32 bits: hosts write any number into a control's
 // fields, and the wildest of them may give a strange picture but never an undefined one.
 class Px {
@@ -38,5 +40,7 @@ constexpr int cut(float v) {
     if (v < -2147483648.0f) return -2147483647 - 1;
     return v == v ? static_cast<int>(v) : 0;
 }
+
+} // namespace brask
 
 #endif

@@ -4,6 +4,8 @@
 
 #include "foundation/trace.h"
 
+using namespace brask;
+
 // --- The recorded button mask -----------------------------------------------------------------------------
 
 namespace {

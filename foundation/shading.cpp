@@ -10,6 +10,8 @@
 
 #include "foundation/pixels.h"
 
+namespace brask {
+
 namespace {
 
 constexpr std::int64_t MOST_PIXELS = 1 << 26; // 256 MB, several times the largest screen
@@ -153,3 +155,5 @@ DWORD* paint_look(const Look& look) {
     shade(pixels, look, inner);
     return pixels;
 }
+
+} // namespace brask

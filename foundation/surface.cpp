@@ -8,6 +8,8 @@
 #include "foundation/surfaces.h"
 #include "foundation/trace.h"
 
+using namespace brask;
+
 // The surfaces that a host paints in, and the colour that everything starts from.
 
 unsigned int Tools::Color_Get() const { return static_cast<unsigned int>(Color.get()); }
@@ -22,6 +24,15 @@ int Tools::Alloc_Graph_Normal(unsigned long word) {
 int Tools::Alloc_Graph_Select(unsigned long word) {
     return Host_Surfaces::allocate(*this, &Tools::Graph_Select, word);
 }
+
+// Reported like the faces that controls share, see faces::ask.
+DWORD* Tools::Inside_3D(Colors color) {
+    Trace trace("Tools::Inside_3D", *this);
+    const Look look = look_of(*this, color);
+    return trace.out(look.flat ? "no 3D" : "", paint_look(look));
+}
+
+namespace brask {
 
 int Host_Surfaces::allocate(Tools& control, DWORD* Tools::*field, unsigned long word) {
     DWORD* old = control.*field;
@@ -66,3 +77,5 @@ DWORD* Host_Surfaces::select_view(const Tools& control, DWORD* view) {
 }
 
 void Host_Surfaces::settle(Tools& control) { control.Gone_Normal = control.Gone_Select = nullptr; }
+
+} // namespace brask

@@ -3,6 +3,8 @@
 
 #include <brask/tools.h>
 
+namespace brask {
+
 // The surfaces of a host, when the control frees one that is still named elsewhere.
 struct Host_Surfaces {
     // What a control's own view on a normal or selected surface stands for now.
@@ -18,5 +20,7 @@ struct Host_Surfaces {
     static void release(Tools& control, DWORD* block);
     static void renew_views(Tools& control, DWORD* block);
 };
+
+} // namespace brask
 
 #endif

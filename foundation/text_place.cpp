@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace brask {
+
 namespace {
 
 // The gap at the left and right edges.
@@ -54,3 +56,5 @@ int stack_y(long flag, int y, int dy, int b, int count, int height) {
     if (flag & TEXT_TOP) return Px(y) + dy - height - b;
     return Px(y) + (Px(count) * height) / 2 + dy / 2 - height;
 }
+
+} // namespace brask

@@ -5,6 +5,8 @@
 
 #include "foundation/pixels.h"
 
+namespace brask {
+
 // Where Tools::Text puts what it writes. Pure functions of the rectangle x, y, dx, dy and of what was
 // measured.
 
@@ -28,5 +30,7 @@ int line_y(long flag, int y, int dy, int b, int height);
 // `count` letters.
 int stack_x(long flag, int x, int dx, int b, int wide);
 int stack_y(long flag, int y, int dy, int b, int count, int height);
+
+} // namespace brask
 
 #endif

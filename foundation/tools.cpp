@@ -5,6 +5,8 @@
 
 #include "foundation/trace.h"
 
+using namespace brask;
+
 Tools::Tools() {
     std::memset(static_cast<void*>(this), 0, sizeof *this);
     Trace trace("Tools::Tools");

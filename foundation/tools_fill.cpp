@@ -6,6 +6,8 @@
 #include "foundation/pixels.h"
 #include "foundation/trace.h"
 
+using namespace brask;
+
 namespace {
 
 constexpr unsigned long HIGHLIGHT = 0x6464E6; // the selected look of a control without a surface

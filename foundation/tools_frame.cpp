@@ -6,6 +6,8 @@
 #include "foundation/pixels.h"
 #include "foundation/trace.h"
 
+using namespace brask;
+
 namespace {
 
 constexpr unsigned long BLACK = 1;

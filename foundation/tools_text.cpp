@@ -6,6 +6,8 @@
 #include "foundation/text_place.h"
 #include "foundation/trace.h"
 
+using namespace brask;
+
 namespace {
 
 constexpr unsigned long BLACK = 1;

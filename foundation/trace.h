@@ -4,6 +4,8 @@
 #include <brask/fenn.h>
 #include <brask/tools.h>
 
+namespace brask {
+
 // Codes of the reports.
 inline constexpr unsigned REPORT_TRACE = 0x90000029;
 inline constexpr unsigned REPORT_WARNING = 0x90000021;
@@ -56,5 +58,7 @@ class Trace {
     int number = 0;
     bool numbered = false;
 };
+
+} // namespace brask
 
 #endif

@@ -3,6 +3,8 @@
 
 #include <brask/tools.h>
 
+namespace brask {
+
 // How a control follows the pointer, apart from what it paints. `select`:
 inline constexpr int TRACK_NONE = 0;    // no press is followed
 inline constexpr int TRACK_INSIDE = 1;  // the pointer is inside, the selected look is shown
@@ -29,5 +31,7 @@ constexpr int event_of(int mode) { return mode & 15; }
 inline bool faceless(const Tools& control) {
     return (control.Flag & (OUTIL_EMPTY | OUTIL_INVISIBLE | GRAPH_OUTLINE)) != 0;
 }
+
+} // namespace brask
 
 #endif

@@ -52,6 +52,10 @@ extern BRASK_API int VAL_DIM;              // for the host's own layouts, 26
 extern BRASK_API int VAL_SMALL;            // for the host's own layouts, 18
 extern BRASK_API unsigned char Tool_Looks; // bit 0: every generated face is flat; 0 at load
 
+namespace brask {
+struct Host_Surfaces; // inside the library
+}
+
 // A control is a plain object with public fields. It has no window, no message handler and no timer: the
 // host writes the fields, calls Init(wnd) and Draw(), routes each mouse message to Select, and reads
 // values back. Coordinates are window pixels, origin at the lower left, Y upward; rectangles are given
@@ -168,7 +172,7 @@ class BRASK_API Tools {
     void Text(const wchar_t* text, long flag, int x, int y, int dx, int dy, int border, unsigned int color);
 
   private:
-    friend struct Host_Surfaces;
+    friend struct brask::Host_Surfaces;
     // Blocks that Alloc_Graph_* has freed although the last Init had seen them: views on them show what took
     // their place. Only compared, never followed.
     DWORD* Gone_Select;
