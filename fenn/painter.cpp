@@ -57,6 +57,11 @@ int signed_word(int value) { return value > 0x7FFF && value <= 0xFFFF ? value - 
 
 const Bracket* bracket() {
     if (!state.bracket.canvas.pixels) return nullptr;
+    // A report in the middle of a bracket may end or resize the window: the rest is not painted then.
+    if (!canvas_stands(*state.window)) {
+        leave_window(*state.window);
+        return nullptr;
+    }
     state.used = true;
     return &state.bracket;
 }

@@ -1,8 +1,6 @@
 #ifndef FENN_WINDOW_H
 #define FENN_WINDOW_H
 
-#include <cstdint>
-
 #include "raster/canvas.h"
 #include <brask/platform.h>
 
@@ -13,11 +11,11 @@ struct Backing; // the system's own part
 
 struct Window {
     HWND wnd;
-    std::uint64_t serial;  // tells a reused handle from the old one, where the system counts its windows
     bool placed;           // set_curs gave the pointer below
     POINT pointer;         // client coordinates, Y downward
     raster::Canvas canvas; // as of the last refresh; no pixels: nothing to paint on
     HDC dc;                // a context on the canvas, Y upward
+    unsigned buffers_gone; // of the platform, at the last refresh
     Backing* backing;
     Window* next;
 };
@@ -37,6 +35,8 @@ bool begin_window(Window& window);
 // nothing when nothing changed.
 bool refresh_window(Window& window);
 void end_window(Window& window);
+// False when the canvas may be gone since the last refresh. Asked before each shape, so as cheap as can be.
+bool canvas_stands(const Window& window);
 
 // The bracket opens and closes; `used`: its context may have been drawn on. Gives what was drawn on the
 // context and not told by itself.

@@ -6,40 +6,54 @@ namespace fenn {
 namespace {
 
 // One context serves all windows: brackets are never nested.
-HDC shared_context() {
-    static const HDC dc = platform::canvas_dc_create();
-    return dc;
+HDC context = nullptr;
+platform::CanvasContext* context_state = nullptr;
+
+bool make_context() {
+    if (context_state) return true;
+    context = platform::canvas_dc_create();
+    context_state = platform::canvas_dc_state(context);
+    return context_state != nullptr;
 }
+
+raster::Rect whole(const Window& window) { return {0, 0, window.canvas.width, window.canvas.height}; }
 
 } // namespace
 
 bool begin_window(Window& window) {
-    window.serial = platform::window_serial(window.wnd);
-    if (window.serial == 0) return false;
-    window.dc = shared_context();
+    if (!make_context()) return false;
+    window.dc = context;
     return refresh_window(window);
 }
 
+// A window's handle is never given again, so its canvas alone tells that it is still there.
 bool refresh_window(Window& window) {
-    if (platform::window_serial(window.wnd) != window.serial) return false;
     const raster::Canvas* const canvas = platform::window_canvas(window.wnd);
     if (!canvas) return false;
     window.canvas = *canvas;
+    window.buffers_gone = platform::buffers_gone;
     return true;
 }
 
+bool canvas_stands(const Window& window) { return window.buffers_gone == platform::buffers_gone; }
+
 void end_window(Window&) {}
 
-void attach_context(Window& window) { platform::canvas_dc_attach(window.dc, window.wnd, &window.canvas); }
+void attach_context(Window& window) {
+    context_state->wnd = window.wnd;
+    context_state->clip = whole(window);
+}
 
-raster::Rect detach_context(Window& window, bool) {
-    platform::canvas_dc_attach(window.dc, nullptr, nullptr);
+raster::Rect detach_context(Window&, bool) {
+    context_state->wnd = nullptr;
     return {};
 }
 
-void clip_context(Window& window, const raster::Rect* clip) { platform::canvas_dc_clip(window.dc, clip); }
+void clip_context(Window& window, const raster::Rect* clip) {
+    context_state->clip = clip ? *clip : whole(window);
+}
 
-void move_context(Window& window, int x, int y) { platform::canvas_dc_move(window.dc, x, y); }
+void move_context(Window&, int x, int y) { context_state->position = {x, y}; }
 
 void show_window(Window& window, const raster::Rect& changed) {
     platform::window_changed(window.wnd, changed);

@@ -97,6 +97,9 @@ bool refresh_window(Window& window) {
     return true;
 }
 
+// The memory context keeps the canvas until the next refresh, whatever becomes of the window.
+bool canvas_stands(const Window&) { return true; }
+
 void end_window(Window& window) {
     drop_pixels(window);
     DeleteDC(window.dc);

@@ -20,7 +20,7 @@ static constexpr raster::Rect kNoClip = {-0x1000000, -0x1000000, 0x1000000, 0x10
 
 DeviceContext* find_context(HDC handle) {
     DeviceContext* dc = contexts().find(handle);
-    if (dc && dc->wnd) { // a window's buffer changes with its size, and ends with it
+    if (dc) { // a window's buffer changes with its size, and ends with it
         const raster::Canvas* canvas = window_canvas(dc->wnd);
         dc->canvas = canvas ? *canvas : raster::Canvas{};
     }
@@ -35,15 +35,10 @@ static std::unique_ptr<DeviceContext> fresh_context() {
     return dc;
 }
 
-static void attach(DeviceContext& dc, HWND wnd, const raster::Canvas* canvas) {
-    dc.wnd = wnd;
-    dc.canvas = canvas ? *canvas : raster::Canvas{};
-    dc.clip = kNoClip;
-}
-
 HDC create_context(HWND wnd) {
     auto dc = fresh_context();
-    attach(*dc, wnd, window_canvas(wnd));
+    dc->wnd = wnd;
+    dc->clip = kNoClip;
     return reinterpret_cast<HDC>(contexts().add(std::move(dc)));
 }
 
@@ -53,16 +48,10 @@ HDC canvas_dc_create() {
     return reinterpret_cast<HDC>(contexts().add(std::move(dc)));
 }
 
-void canvas_dc_attach(HDC handle, HWND wnd, raster::Canvas* canvas) {
-    if (DeviceContext* dc = find_context(handle)) attach(*dc, wnd, canvas);
-}
+CanvasContext* canvas_dc_state(HDC handle) { return contexts().find(handle); }
 
 void canvas_dc_clip(HDC handle, const raster::Rect* clip) {
     if (DeviceContext* dc = find_context(handle)) dc->clip = clip ? *clip : kNoClip;
-}
-
-void canvas_dc_move(HDC handle, int x, int y) {
-    if (DeviceContext* dc = find_context(handle)) dc->position = {x, y};
 }
 
 static LONG rounded(double value) {
@@ -127,7 +116,7 @@ HDC GetDC(HWND wnd) { return wnd && !find_window(wnd) ? nullptr : create_context
 
 int ReleaseDC(HWND wnd, HDC handle) {
     const DeviceContext* dc = find_context(handle);
-    return dc && dc->wnd == wnd && contexts().remove(handle);
+    return dc && !dc->flipped && dc->wnd == wnd && contexts().remove(handle); // a canvas' own lasts
 }
 
 HGDIOBJ SelectObject(HDC handle, HGDIOBJ object) {

@@ -3,22 +3,18 @@
 
 #include "gdi.h"
 #include "handles.h"
-#include "raster/canvas.h"
+#include "surface.h"
 
 namespace platform {
 
 // Logical point -> world transform -> window and viewport origin -> canvas; `flipped` ones count Y upward
 // from the lower left corner of the canvas.
-struct DeviceContext {
-    HWND wnd = nullptr;
-    raster::Canvas canvas{}; // width 0: nothing to draw on
-    raster::Rect clip{};
+struct DeviceContext : CanvasContext {
     bool flipped = false;
     int mode = GM_COMPATIBLE;
     XFORM world = {1, 0, 0, 1, 0, 0};
     POINT viewport{};
     POINT window{};
-    POINT position{};
     HGDIOBJ pen = nullptr;
     HGDIOBJ brush = nullptr;
     HGDIOBJ font = nullptr;

@@ -8,6 +8,7 @@
 
 #include "handles.h"
 #include "raster/canvas.h"
+#include "surface.h"
 #include "window.h"
 
 // What a window and its class are inside. A call of a window procedure may end any window: look a handle up
@@ -30,7 +31,10 @@ WindowClass* find_class(LPCWSTR name_or_atom);
 enum class Layout { normal, minimized, maximized };
 
 struct Free {
-    void operator()(void* block) const { std::free(block); }
+    void operator()(void* block) const {
+        buffers_gone++;
+        std::free(block);
+    }
 };
 
 struct Window {

@@ -9,7 +9,7 @@ using Rows = std::vector<std::string>;
 
 void fill(HWND wnd, unsigned long color) {
     Painting painting(wnd, color);
-    draw_fill_rectangle(-10, 100, 100, -10);
+    draw_fill_rectangle(-10, 1000, 1000, -10);
 }
 
 TEST(Window, HasTheSizeOfItsClientArea) {
@@ -93,18 +93,49 @@ TEST(Window, ADestroyedOnePaintsNothing) {
     EXPECT_EQ(Fenn_Pixels(gone, nullptr, nullptr), nullptr);
 }
 
+void paint_everything() {
+    const int xs[] = {0, 3, 3}, ys[] = {0, 0, 3};
+    const DWORD word = 0xFFFFFF;
+    Zeb_set_clip(0, 0, 3, 3);
+    draw_fill_rectangle(-10, 100, 100, -10);
+    draw_rectangle(0, 3, 3, 0);
+    move2s(0, 0);
+    draw2s(3, 3, 0);
+    draw_polygon(3, xs, ys);
+    draw_fill_polygon(3, xs, ys);
+    draw_image(reinterpret_cast<const char*>(&word), 0, 0, 0, 0, 1, 1, 1, 1, 0);
+    Zeb_reset_clip();
+    set_curs(1, 1);
+    int x = 0, y = 0;
+    read_curs(&x, &y);
+}
+
 TEST(Window, MayBeDestroyedInsideABracket) {
     Screen screen(4, 4), other(2, 2);
     Zeb_setup(screen.wnd, "test");
     Zeb_color(white);
     draw_rectangle(0, 3, 3, 0);
     screen.close();
+    paint_everything();
     fill(other.wnd, red); // which ends that bracket
     EXPECT_EQ(other.text(), "RR\nRR\n");
     Zeb_setup(other.wnd, "test");
     other.close();
     Zeb_release();
     EXPECT_EQ(Zeb_test(), 0);
+}
+
+TEST(Window, MayBeResizedInsideABracket) {
+    Screen screen(4, 4);
+    Zeb_setup(screen.wnd, "test");
+    Zeb_color(white);
+    screen.resize(3, 2);
+    paint_everything();
+    screen.resize(300, 200);
+    paint_everything();
+    Zeb_release();
+    fill(screen.wnd, red);
+    EXPECT_EQ(screen.painted(), 300 * 200);
 }
 
 TEST(Window, ANewOneStartsEmpty) {
