@@ -18,11 +18,11 @@ void Tools::Color_Set(unsigned int word) { Color.set(word); }
 void Tools::Color_Set(Colors color) { Color.set(color); }
 
 int Tools::Alloc_Graph_Normal(unsigned long word) {
-    return Host_Surfaces::allocate(*this, &Tools::Graph_Normal, word);
+    return Host_Surfaces::allocate(*this, Host_Surfaces::NORMAL, word);
 }
 
 int Tools::Alloc_Graph_Select(unsigned long word) {
-    return Host_Surfaces::allocate(*this, &Tools::Graph_Select, word);
+    return Host_Surfaces::allocate(*this, Host_Surfaces::SELECT, word);
 }
 
 // Reported like the faces that controls share, see faces::ask.
@@ -34,48 +34,52 @@ DWORD* Tools::Inside_3D(Colors color) {
 
 namespace brask {
 
-int Host_Surfaces::allocate(Tools& control, DWORD* Tools::*field, unsigned long word) {
-    DWORD* old = control.*field;
-    control.*field = nullptr;
+using Surfaces = Host_Surfaces;
+
+const Surfaces::Side Surfaces::NORMAL = {&Tools::Graph_Normal, &Tools::Old_Graph_Normal, &Tools::Image_Normal,
+                                         &Tools::Made_Normal, &Tools::Gone_Normal};
+const Surfaces::Side Surfaces::SELECT = {&Tools::Graph_Select, &Tools::Old_Graph_Select, &Tools::Image_Select,
+                                         &Tools::Made_Select, &Tools::Gone_Select};
+
+int Surfaces::allocate(Tools& control, const Side& side, unsigned long word) {
+    DWORD* old = control.*side.graph;
+    control.*side.graph = nullptr;
     // A block that serves both looks lives on in the other one.
     const bool freed = old && old != control.Graph_Normal && old != control.Graph_Select;
-    if (freed) release(control, old);
+    if (freed) std::free(old);
     const std::int64_t count = std::int64_t{control.Dim_X} * control.Dim_Y;
-    if (count >= 1) {
-        control.*field = surface_block(control.Dim_X, control.Dim_Y);
-        if (control.*field) std::fill_n(control.*field, count, static_cast<DWORD>(word));
-    }
-    if (freed) renew_views(control, old);
-    if (count < 1 || control.*field) return 1;
+    DWORD* fresh = count < 1 ? nullptr : surface_block(control.Dim_X, control.Dim_Y);
+    if (fresh) std::fill_n(fresh, count, static_cast<DWORD>(word));
+    control.*side.graph = fresh;
+    control.*side.made = {fresh, control.Dim_X, control.Dim_Y};
+    if (freed) forget(control, old);
+    if (fresh || count < 1) return 1;
     Error_Fct(hwnd, REPORT_MEMORY, "line %-4d of %hs \nmemory error in new", __LINE__, "tools");
     return 0;
 }
 
-void Host_Surfaces::release(Tools& control, DWORD* block) {
-    if (control.Old_Graph_Normal == block) {
-        control.Gone_Normal = block;
-        control.Old_Graph_Normal = nullptr;
+// Lets nothing name a block that is gone.
+void Surfaces::forget(Tools& control, const DWORD* block) {
+    for (const Side* side : {&NORMAL, &SELECT}) {
+        if (control.*side->image == block) control.*side->image = control.*side->graph;
+        if (control.*side->old != block) continue;
+        control.*side->old = nullptr;
+        control.*side->gone = block;
     }
-    if (control.Old_Graph_Select == block) {
-        control.Gone_Select = block;
-        control.Old_Graph_Select = nullptr;
+}
+
+bool Surfaces::outgrown(const void* image, const Tools& control) {
+    for (const Side* side : {&NORMAL, &SELECT}) {
+        const Tools::Made& made = control.*side->made;
+        if (made.Block == image) return made.Dim_X != control.Dim_X || made.Dim_Y != control.Dim_Y;
     }
-    std::free(block);
+    return false;
 }
 
-void Host_Surfaces::renew_views(Tools& control, DWORD* block) {
-    if (control.Image_Normal == block) control.Image_Normal = control.Graph_Normal;
-    if (control.Image_Select == block) control.Image_Select = control.Graph_Select;
+DWORD* Surfaces::current(const Tools& control, const Side& side, DWORD* view) {
+    return view && view == control.*side.gone ? control.*side.graph : view;
 }
 
-DWORD* Host_Surfaces::normal_view(const Tools& control, DWORD* view) {
-    return view && view == control.Gone_Normal ? control.Graph_Normal : view;
-}
-
-DWORD* Host_Surfaces::select_view(const Tools& control, DWORD* view) {
-    return view && view == control.Gone_Select ? control.Graph_Select : view;
-}
-
-void Host_Surfaces::settle(Tools& control) { control.Gone_Normal = control.Gone_Select = nullptr; }
+void Surfaces::settle(Tools& control) { control.Gone_Normal = control.Gone_Select = nullptr; }
 
 } // namespace brask

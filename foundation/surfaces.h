@@ -5,20 +5,29 @@
 
 namespace brask {
 
-// The surfaces of a host, when the control frees one that is still named elsewhere.
+// The surfaces that a host gives or asks for, as far as the control can know them.
 struct Host_Surfaces {
-    // What a control's own view on a normal or selected surface stands for now.
-    static DWORD* normal_view(const Tools& control, DWORD* view);
-    static DWORD* select_view(const Tools& control, DWORD* view);
+    // The two looks, with what is kept for each.
+    struct Side {
+        DWORD* Tools::*graph;
+        DWORD* Tools::*old;
+        DWORD* Tools::*image;
+        Tools::Made Tools::*made;
+        const DWORD* Tools::*gone;
+    };
+    static const Side NORMAL, SELECT;
+
+    // Gives one side a new block of the control's size, filled with a surface word. 1, or 0 without memory.
+    static int allocate(Tools& control, const Side& side, unsigned long word);
+    // Was this surface made for another size than the control has now? Then it must not be read.
+    static bool outgrown(const void* image, const Tools& control);
+    // What a control's own view on a surface of that side stands for now.
+    static DWORD* current(const Tools& control, const Side& side, DWORD* view);
     // Init has made every view anew.
     static void settle(Tools& control);
 
-    // Gives `field`, one of the two, a new block of the control's size.
-    static int allocate(Tools& control, DWORD* Tools::*field, unsigned long word);
-
   private:
-    static void release(Tools& control, DWORD* block);
-    static void renew_views(Tools& control, DWORD* block);
+    static void forget(Tools& control, const DWORD* block);
 };
 
 } // namespace brask

@@ -4,6 +4,7 @@
 #include "foundation/checks.h"
 #include "foundation/faces.h"
 #include "foundation/pixels.h"
+#include "foundation/surfaces.h"
 #include "foundation/trace.h"
 
 using namespace brask;
@@ -71,7 +72,7 @@ void Tools::Fill_Select(int on, const char* image, long flag, int inset, int x1,
     if (flag & OUTIL_EMPTY) return;
     const Px left = x1, right = x2, bottom = y1, top = y2;
     Bracket bracket(*this, "Tools::Fill_Select");
-    if (image && !faces::outgrown(image, *this)) {
+    if (image && !faces::outgrown(image, *this) && !Host_Surfaces::outgrown(image, *this)) {
         // The source row stands one less in than the column: that row is the first one shaded.
         draw_image(image, left + inset, bottom + inset, inset, Px(inset) - 1,
                    right - 2 * Px(inset) - left + 1, top - 2 * Px(inset) - bottom + 1, Dim_X, Dim_Y, 0);

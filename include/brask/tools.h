@@ -173,10 +173,15 @@ class BRASK_API Tools {
 
   private:
     friend struct brask::Host_Surfaces;
-    // Blocks that Alloc_Graph_* has freed although the last Init had seen them: views on them show what took
-    // their place. Only compared, never followed.
-    DWORD* Gone_Select;
-    DWORD* Gone_Normal;
+    // Addresses that are only compared, never followed.
+    struct Made {
+        const DWORD* Block;
+        int Dim_X, Dim_Y;
+    };
+    Made Made_Select; // what Alloc_Graph_Select made last: it must not be read at another size
+    Made Made_Normal;
+    const DWORD* Gone_Select; // a block that the last Init saw and Alloc_Graph_* freed: a view on it shows
+    const DWORD* Gone_Normal; // what took its place
 };
 
 #endif

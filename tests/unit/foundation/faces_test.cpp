@@ -1,0 +1,139 @@
+#include <cstdlib>
+#include <list>
+#include <memory>
+#include <set>
+
+#include <brask/boxs.h>
+#include <brask/buttons.h>
+
+#include "foundation/faces.h"
+#include "support/recorded.h"
+
+// Faces are shared between controls that want the same pixels, and live as long as one of them does.
+
+namespace {
+
+struct Faces : Recorded {
+    template <typename Control>
+    static void lay_out(Control& control, int width = 60, int height = 24) {
+        control.Dim_X = width, control.Dim_Y = height;
+        control.Init(recorder::window());
+    }
+    static std::set<DWORD*> faces_of(const Buttons& b) {
+        return {b.Own_Normal_Off, b.Own_Normal_On, b.Own_Select_Off, b.Own_Select_On};
+    }
+};
+
+TEST_F(Faces, EqualButtonsHaveFourInAll) {
+    std::list<Buttons> buttons(200);
+    std::set<DWORD*> all;
+    for (Buttons& button : buttons) {
+        lay_out(button);
+        all.merge(faces_of(button));
+    }
+    EXPECT_EQ(all.size(), 4u);
+    EXPECT_EQ(all.count(nullptr), 0u);
+}
+
+TEST_F(Faces, WhateverDecidesThePixelsPartsThem) {
+    Boxs model, taller, wider, bevelled, coloured, flat;
+    taller.Border = wider.Border = 0;
+    bevelled.Border = 5;
+    coloured.Color = Colors(1, 2, 3);
+    flat.Flag = OUTIL_FLAT;
+    lay_out(model);
+    lay_out(taller, 60, 25);
+    lay_out(wider, 61, 24);
+    lay_out(bevelled);
+    lay_out(coloured);
+    lay_out(flat);
+    std::set<DWORD*> normal;
+    for (const Boxs* box : {&model, &taller, &wider, &bevelled, &coloured, &flat})
+        normal.insert(box->Box_Normal);
+    EXPECT_EQ(normal.size(), 6u);
+    EXPECT_EQ(coloured.Box_Select, model.Box_Select); // the selected look knows no colour of the box
+}
+
+TEST_F(Faces, ABorderOfTheSameWidthIsTheSameFace) {
+    Boxs plain, given, negative;
+    given.Border = BORDER;
+    negative.Border = -BORDER;
+    lay_out(plain);
+    lay_out(given);
+    lay_out(negative);
+    EXPECT_EQ(plain.Box_Normal, given.Box_Normal);
+    EXPECT_EQ(plain.Box_Normal, negative.Box_Normal);
+}
+
+TEST_F(Faces, AnOnlyOwnerGetsItsFaceMadeAnew) {
+    Boxs box;
+    lay_out(box);
+    const DWORD clean = box.Box_Normal[70];
+    box.Box_Normal[70] = ~clean;
+    box.Init(recorder::window());
+    EXPECT_EQ(box.Box_Normal[70], clean);
+}
+
+TEST_F(Faces, AFaceOfOthersIsHandedOn) {
+    Boxs box, other;
+    lay_out(box);
+    lay_out(other);
+    const DWORD* face = box.Box_Normal;
+    box.Init(recorder::window());
+    EXPECT_EQ(box.Box_Normal, face);
+}
+
+TEST_F(Faces, ACopyOutlivesItsSource) {
+    auto source = std::make_unique<Buttons>();
+    lay_out(*source);
+    Buttons copy(*source);
+    Buttons assigned;
+    lay_out(assigned, 10, 10);
+    assigned = copy;
+    source.reset();
+    EXPECT_EQ(faces_of(copy), faces_of(assigned));
+    for (DWORD* face : faces_of(copy))
+        EXPECT_EQ(face[60 * 24 - 1] >> 24, 0u); // still there to be read
+    Buttons& same = assigned;
+    assigned = same;
+    EXPECT_EQ(assigned.Own_Select_On[0] >> 24, 0u);
+}
+
+TEST_F(Faces, ManyDifferentOnesAreAllFound) {
+    std::list<Boxs> boxes(500);
+    int width = 10;
+    for (Boxs& box : boxes)
+        lay_out(box, width++, 8);
+    for (Boxs& box : boxes) {
+        EXPECT_FALSE(brask::faces::outgrown(box.Box_Normal, box));
+        Boxs twin;
+        lay_out(twin, box.Dim_X, 8);
+        EXPECT_EQ(twin.Box_Normal, box.Box_Normal);
+        box.Dim_X--;
+        EXPECT_TRUE(brask::faces::outgrown(box.Box_Select, box));
+    }
+}
+
+// Around the widths at which another way of shading sets in.
+TEST_F(Faces, EachWidthIsShadedByTheSameRule) {
+    for (int width : {1, 2, 7, 8, 9, 15, 16, 17, 2047, 2048, 2049, 2055, 4100}) {
+        Tools tools;
+        tools.Border = 1;
+        tools.Dim_X = width + 2, tools.Dim_Y = 5;
+        const Colors color(170, 60, 200);
+        const std::unique_ptr<DWORD, decltype(&std::free)> face(tools.Inside_3D(color), std::free);
+        const float step_x = 100.0f / static_cast<float>(width), step_y = 100.0f / 3.0f;
+        for (int j = 0; j < 3; ++j)
+            for (int i = 0; i < width; ++i) {
+                const float across = static_cast<float>(i) * step_x - 50.0f;
+                const float down = static_cast<float>(j) * step_y - 50.0f;
+                const int shade = static_cast<int>(across + down);
+                const DWORD wanted =
+                    static_cast<DWORD>(Colors(170 + shade, 60 + shade, 200 + shade).get_invert());
+                ASSERT_EQ(face.get()[(j + 1) * (width + 2) + i + 1], wanted)
+                    << width << ": " << i << ", " << j;
+            }
+    }
+}
+
+} // namespace
