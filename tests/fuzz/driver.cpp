@@ -21,7 +21,7 @@
 extern "C" void __sanitizer_set_death_callback(void (*)());
 // A block that no control can need fails as it does on a machine that is full.
 ASKED_BY_SANITIZER const char* __asan_default_options() {
-    return "allocator_may_return_null=1:max_allocation_size_mb=16";
+    return "allocator_may_return_null=1:max_allocation_size_mb=4";
 }
 ASKED_BY_SANITIZER const char* __lsan_default_options() { return "print_suppressions=0"; }
 // What fontconfig keeps for the process, and what this release of raqm forgets of each text's features.
