@@ -56,32 +56,26 @@ bool is_configured_apart() {
     return false;
 }
 
+// The whole configuration, read when it is needed.
 struct Finder {
-    Config config;
-    bool is_whole = false;
+    Config config{FcInitLoadConfigAndFonts()};
     std::map<Wanted, FontSet> orders; // fallback faces, best first
-
-    Finder() {
-        if (is_configured_apart()) {
-            load_whole();
-        } else {
-            config.reset(FcConfigCreate());
-            FcConfigParseAndLoadFromMemory(config.get(), fc(SHORT_CONFIG), FcFalse);
-            FcConfigBuildFonts(config.get());
-        }
-    }
-
-    void load_whole() {
-        if (is_whole) return;
-        is_whole = true;
-        config.reset(FcInitLoadConfigAndFonts());
-    }
 };
 
+Finder* only = nullptr;
+
+// fontconfig links its data by offsets, which a search for leaked memory does not follow: so it is freed at
+// the end. A text written still later reads it anew.
+struct FinderEnd {
+    ~FinderEnd() {
+        delete only;
+        only = nullptr;
+    }
+} finder_end;
+
 Finder& finder() {
-    // Never destroyed: text may still be written while a host's own statics go.
-    static Finder& only = *new Finder;
-    return only;
+    if (!only) only = new Finder;
+    return *only;
 }
 
 Pattern make_pattern(const Wanted& wanted, const char* family) {
@@ -145,7 +139,13 @@ FontFile find_by_name(FcConfig* config, const Wanted& wanted, const char* family
                                                                              : FontFile();
 }
 
-FontFile find_short(FcConfig* config, const Wanted& wanted) {
+// The short configuration goes again at once: it holds more memory than all else that text needs.
+FontFile find_short(const Wanted& wanted) {
+    const Config owner(FcConfigCreate());
+    FcConfig* const config = owner.get();
+    if (!config || !FcConfigParseAndLoadFromMemory(config, fc(SHORT_CONFIG), FcFalse) ||
+        !FcConfigBuildFonts(config))
+        return {};
     for (const Twins& row : twins) {
         if (!is_same(row.family, wanted.family.c_str())) continue;
         FontFile file;
@@ -158,7 +158,6 @@ FontFile find_short(FcConfig* config, const Wanted& wanted) {
 
 FcFontSet* fallback_order(const Wanted& wanted) {
     Finder& all = finder();
-    all.load_whole();
     if (!all.config) return nullptr;
     FontSet& order = all.orders[wanted];
     if (!order) {
@@ -184,9 +183,8 @@ bool Wanted::operator<(const Wanted& other) const {
 }
 
 FontFile find_font(const Wanted& wanted) {
-    Finder& all = finder();
-    if (!all.is_whole && all.config) {
-        const FontFile file = find_short(all.config.get(), wanted);
+    if (!is_configured_apart()) {
+        const FontFile file = find_short(wanted);
         if (!file.path.empty()) return file;
     }
     const FcFontSet* const order = fallback_order(wanted);

@@ -23,7 +23,6 @@ struct Shaper {
     decltype(&raqm_set_par_direction) set_par_direction;
     decltype(&raqm_set_freetype_face_range) set_freetype_face_range;
     decltype(&raqm_set_freetype_load_flags) set_freetype_load_flags;
-    decltype(&raqm_add_font_feature) add_font_feature;
     decltype(&raqm_layout) layout;
     decltype(&raqm_get_glyphs) get_glyphs;
     bool is_there;
@@ -35,7 +34,6 @@ struct Shaper {
                    find(library, "raqm_set_par_direction", set_par_direction) &&
                    find(library, "raqm_set_freetype_face_range", set_freetype_face_range) &&
                    find(library, "raqm_set_freetype_load_flags", set_freetype_load_flags) &&
-                   find(library, "raqm_add_font_feature", add_font_feature) &&
                    find(library, "raqm_layout", layout) && find(library, "raqm_get_glyphs", get_glyphs);
     }
 
@@ -144,9 +142,8 @@ bool shape(const Shaper& with, raqm_t* job, Font& font, const std::vector<Item>&
     for (const Item& item : items)
         codes += code_to_shape(item);
     const auto first = reinterpret_cast<const std::uint32_t*>(codes.data());
-    // Letters keep their distances whatever stands beside them, as on the short way.
     if (!with.set_text(job, first, codes.size()) || !with.set_par_direction(job, RAQM_DIRECTION_DEFAULT) ||
-        !with.set_freetype_load_flags(job, FT_LOAD_DEFAULT) || !with.add_font_feature(job, "-kern", -1))
+        !with.set_freetype_load_flags(job, FT_LOAD_DEFAULT))
         return false;
     for (std::size_t i = 0, end; i < items.size(); i = end) {
         for (end = i + 1; end < items.size() && items[end].face == items[i].face;)
