@@ -24,10 +24,10 @@ const BoxSample boxes[] = {
     {L"No frame", OUTIL_NO_FRAME, 0, 0},
     {L"Outline", GRAPH_OUTLINE, 0, 0},
     {L"Empty", OUTIL_EMPTY, 0, 0},
-    {L"Flat", OUTIL_FLAT, 0, 0},
+    {L"Flat", OUTIL_FLAT, 0, 0xA8C8D8},
     {L"Disabled", OUTIL_DISABLE, 0, 0},
     {L"Wide border", BOX_RAISED, 8, 0},
-    {L"Line only", 0, -1, 0},
+    {L"Thin border", 0, 1, 0},
     {L"White title", OUTIL_FLAT | TEXT_WHITE, 0, 0x805030},
 };
 
@@ -61,9 +61,9 @@ const LabelSample aligns[] = {
 };
 
 const LabelSample stacks[] = {
-    aligned(L"Top", OUTIL_VERTICAL | TEXT_TOP | TEXT_LEFT),
+    aligned(L"Top", OUTIL_VERTICAL | TEXT_TOP),
     aligned(L"Stack", OUTIL_VERTICAL),
-    aligned(L"End", OUTIL_VERTICAL | TEXT_BOTTOM | TEXT_RIGHT),
+    aligned(L"End", OUTIL_VERTICAL | TEXT_BOTTOM),
 };
 
 constexpr LabelSample script(const wchar_t* caption, const wchar_t* text) {

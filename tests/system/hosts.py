@@ -1,0 +1,82 @@
+"""The gallery's command line, its pictures on both systems, and the small host."""
+
+import os
+import tempfile
+
+from display import Window, wait_for
+from pages import SIZE, button
+from pictures import differences, read_png
+from rules import Control, wrong
+
+
+def options(tally, system):
+    """Bad options are refused with 2 and a message that names them."""
+    for words, mentioned in ((["--nonsense"], "--nonsense"), (["--size", "0x5"], "0x5"), (["--size", "12"], "12"),
+                             (["--size"], "WxH"), (["--page", "Nowhere"], "Basics"), (["--size", "9x9x9"], "9x9x9")):
+        code, _, errors = system.run("gallery", *words)
+        good = code == 2 and mentioned in errors
+        tally.check(f"{system.name} options {words}", None if good else f"exit code {code}, message: {errors}")
+    code, output, _ = system.run("gallery", "--help")
+    known = all(word in output for word in ("--page", "--size", "--snapshot", "--trace", "--builtin-font", "--layout"))
+    tally.check(f"{system.name} help", None if code == 0 and known else f"exit code {code}: {output}")
+    with tempfile.TemporaryDirectory() as folder:
+        code, output, _ = system.run("gallery", "--trace", "--snapshot", os.path.join(folder, "a", "b"))
+        drawn = os.path.exists(os.path.join(folder, "a", "b", "basics.png"))
+        tally.check(f"{system.name} snapshot makes its folder", None if code == 0 and drawn else f"exit code {code}")
+        entered = output.count(">>> in  Lib_Brask: Boxs::Draw(Sunken)")
+        left = output.count("<<< out Lib_Brask: Boxs::Draw(")
+        tally.check(f"{system.name} trace", None if entered == 1 and left > 20 else f"{entered} in, {left} out")
+        code, _, errors = system.run("gallery", "--snapshot", "/dev/null/x")
+        tally.check(f"{system.name} snapshot into nothing", None if code == 1 and errors else f"exit code {code}")
+
+
+def snapshot(system, *words):
+    with tempfile.TemporaryDirectory() as folder:
+        code, _, errors = system.run("gallery", "--snapshot", folder, *words)
+        if code:
+            raise RuntimeError(f"{system.name}: exit code {code}: {errors}")
+        return read_png(os.path.join(folder, "basics.png"))
+
+
+def same_pictures(tally, windows, native):
+    """Both systems paint the same page: in the built-in font all of it, otherwise all but the text."""
+    here, there = snapshot(native, "--builtin-font"), snapshot(windows, "--builtin-font")
+    place = next(differences(here, there), None)
+    tally.check("same picture in the built-in font", place and f"first difference at {place}", native=here, wine=there)
+
+    here, there = snapshot(native), snapshot(windows)
+    areas = [control.text_area() for control in native.layout(*SIZE).values() if control.name]
+    outside = next(
+        ((x, y) for x, y in differences(here, there)
+         if not any(l <= x < r and t <= y < b for l, t, r, b in areas)), None)
+    tally.check("same picture apart from text", outside and f"first difference at {outside}", native=here, wine=there)
+
+
+def hello(tally, system, display):
+    """The small host: its one button lights up, goes down and comes up, and the window closes."""
+    display.xdotool("mousemove", 1399, 899)
+    window = Window(display, system, "hello", "Hello")
+    try:
+        _, _, width, height = window.place()
+        control = Control("button", (width - 160) // 2, (height - 40) // 2, 160, 40, "Hello", height)
+
+        def shows(name, look):
+            expected = list(look(control))
+            wait_for(lambda: not wrong(window.picture(), expected), 5)
+            tally.check(f"{system.name} hello {name}", wrong(window.picture(), expected), window=window.picture())
+
+        shows("at the start", button())
+        window.move(*control.spot())
+        shows("under the pointer", button(hover=True))
+        window.press()
+        shows("down", button(1, hover=True))
+        window.release()
+        window.move(2, 2)
+        shows("still down when left", button(1))
+        window.move(*control.spot())
+        window.press()
+        window.release()
+        window.move(2, 2)
+        shows("up again", button())
+    finally:
+        window.kill()

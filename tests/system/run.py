@@ -1,0 +1,80 @@
+"""Runs the proofs that need a real window. See run.sh."""
+
+import os
+import shutil
+import subprocess
+import sys
+
+import hosts
+import pages
+from display import Display, System
+
+
+class Tally:
+    def __init__(self, pictures):
+        self.passed = self.failed = self.skipped = 0
+        self.pictures = pictures
+
+    def check(self, name, problem, **saved):
+        """`problem` says what is wrong; None or an empty text when nothing is. Pictures are saved for a look."""
+        if not problem:
+            self.passed += 1
+            return
+        self.failed += 1
+        print(f"FAILED {name}: {problem}", flush=True)
+        os.makedirs(self.pictures, exist_ok=True)
+        for label, picture in saved.items():
+            path = os.path.join(self.pictures, f"{name}-{label}.png".replace(" ", "-").replace("/", "-"))
+            picture.save(path)
+            print(f"  {label}: {path}")
+
+    def skip(self, what):
+        self.skipped += 1
+        print(f"SKIPPED, NOT PROVEN: {what}", flush=True)
+
+    def scene(self, system, scene, *arguments):
+        """One scene; an error in it is a failure, and the others go on."""
+        name = f"{system.name} {scene.__name__}"
+        try:
+            scene(self, system, *arguments)
+        except Exception as error:
+            self.check(name, f"{type(error).__name__}: {error}")
+
+
+def windows_system(folder, tally, display):
+    if not shutil.which("wine"):
+        tally.skip("the gallery as a Windows program: there is no Wine")
+        return None
+    if not os.path.exists(os.path.join(folder, "bin", "gallery.exe")):
+        tally.skip(f"the gallery as a Windows program: {folder} was not built")
+        return None
+    os.environ.setdefault("WINEPREFIX", os.path.abspath("build/wine"))
+    os.environ.setdefault("WINEDEBUG", "-all")
+    environment = {**os.environ, "DISPLAY": display.name}
+    subprocess.run(["wineboot", "--init"], capture_output=True, timeout=300, env=environment)
+    return System("wine", folder, ".exe", ["wine"], display)
+
+
+def main(native_folder, windows_folder):
+    tally = Tally("build/system")
+    systems = [System("native", native_folder, "", [])]
+    display = Display()
+    try:
+        windows = windows_system(windows_folder, tally, display)
+        if windows:
+            systems.append(windows)
+        for system in systems:
+            tally.scene(system, hosts.options)
+            for scene in (pages.basics, pages.sizes, hosts.hello):
+                tally.scene(system, scene, display)
+        if windows:
+            tally.scene(windows, hosts.same_pictures, systems[0])
+    finally:
+        display.close()
+    skipped = f", {tally.skipped} skipped" if tally.skipped else ""
+    print(f"{tally.passed} passed, {tally.failed} failed{skipped}")
+    return 1 if tally.failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
