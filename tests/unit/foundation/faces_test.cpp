@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <iterator>
 #include <list>
 #include <memory>
 #include <set>
@@ -35,23 +36,27 @@ TEST_F(Faces, EqualButtonsHaveFourInAll) {
     EXPECT_EQ(all.count(nullptr), 0u);
 }
 
+// So many of each kind that some of them share a place wherever they are kept.
 TEST_F(Faces, WhateverDecidesThePixelsPartsThem) {
-    Boxs model, taller, wider, bevelled, coloured, flat;
-    taller.Border = wider.Border = 0;
-    bevelled.Border = 5;
-    coloured.Color = Colors(1, 2, 3);
-    flat.Flag = OUTIL_FLAT;
-    lay_out(model);
-    lay_out(taller, 60, 25);
-    lay_out(wider, 61, 24);
-    lay_out(bevelled);
-    lay_out(coloured);
-    lay_out(flat);
-    std::set<DWORD*> normal;
-    for (const Boxs* box : {&model, &taller, &wider, &bevelled, &coloured, &flat})
-        normal.insert(box->Box_Normal);
-    EXPECT_EQ(normal.size(), 6u);
-    EXPECT_EQ(coloured.Box_Select, model.Box_Select); // the selected look knows no colour of the box
+    constexpr int MANY = 200;
+    std::list<Boxs> boxes(5 * MANY);
+    std::set<DWORD*> faces;
+    int number = 0;
+    for (Boxs& box : boxes) {
+        const int way = number % 5, value = number / 5;
+        box.Border = way == 2 ? 4 + value : 3;
+        if (way == 3) box.Color = Colors(value, 7, 7);
+        if (way == 4) box.Color = Colors(value, 7, 7), box.Flag = OUTIL_FLAT;
+        lay_out(box, way == 0 ? 61 + value : 60, way == 1 ? 25 + value : 24);
+        faces.insert(box.Box_Normal);
+        ++number;
+    }
+    EXPECT_EQ(faces.size(), boxes.size());
+    for (const Boxs& box : boxes)
+        if (box.Border == 3 && box.Dim_X == 60 && box.Dim_Y == 24 && !box.Flag) {
+            // The selected look knows no colour of the box.
+            ASSERT_EQ(box.Box_Select, std::next(boxes.begin(), 3)->Box_Select);
+        }
 }
 
 TEST_F(Faces, ABorderOfTheSameWidthIsTheSameFace) {
@@ -123,15 +128,15 @@ TEST_F(Faces, EachWidthIsShadedByTheSameRule) {
         const Colors color(170, 60, 200);
         const std::unique_ptr<DWORD, decltype(&std::free)> face(tools.Inside_3D(color), std::free);
         const float step_x = 100.0f / static_cast<float>(width), step_y = 100.0f / 3.0f;
-        for (int j = 0; j < 3; ++j)
-            for (int i = 0; i < width; ++i) {
-                const float across = static_cast<float>(i) * step_x - 50.0f;
-                const float down = static_cast<float>(j) * step_y - 50.0f;
-                const int shade = static_cast<int>(across + down);
+        for (int y = 0; y < tools.Dim_Y; ++y)
+            for (int x = 0; x < tools.Dim_X; ++x) {
+                const bool margin = x == 0 || x == width + 1 || y == 0 || y == 4;
+                const float across = static_cast<float>(x - 1) * step_x - 50.0f;
+                const float down = static_cast<float>(y - 1) * step_y - 50.0f;
+                const int shade = margin ? 0 : static_cast<int>(across + down);
                 const DWORD wanted =
                     static_cast<DWORD>(Colors(170 + shade, 60 + shade, 200 + shade).get_invert());
-                ASSERT_EQ(face.get()[(j + 1) * (width + 2) + i + 1], wanted)
-                    << width << ": " << i << ", " << j;
+                ASSERT_EQ(face.get()[y * tools.Dim_X + x], wanted) << width << ": " << x << ", " << y;
             }
     }
 }
