@@ -15,12 +15,12 @@
 // which any thread may use.
 
 // --- Data ---
-extern FENN_API HWND hwnd;                       // the application's main window, for reports; may be null
-extern FENN_API wchar_t* W_Inst_Path;            // installation folder, ends in a separator; may be null
-extern FENN_API wchar_t* W_Prog_Name;            // the program's name; may be null
-extern FENN_API HDC Zeb_DC;                      // inside a bracket: its device context, Y upward; else null
-extern FENN_API DWORD Current_Color;             // the last colour given to Zeb_color
-extern FENN_API wchar_t Kelvar_Err_Str[1024];    // text of the last error
+extern FENN_API HWND hwnd;                    // the application's main window, for reports; may be null
+extern FENN_API wchar_t* W_Inst_Path;         // installation folder, ends in a separator; may be null
+extern FENN_API wchar_t* W_Prog_Name;         // the program's name; may be null
+extern FENN_API HDC Zeb_DC;                   // inside a bracket: its device context, Y upward; else null
+extern FENN_API DWORD Current_Color;          // the last colour given to Zeb_color
+extern FENN_API wchar_t Kelvar_Err_Str[1024]; // text of the last error
 
 // A picture read from a file. Data is malloc'ed, top row first; free it with IGB_Free.
 struct IGB_data {
@@ -40,19 +40,19 @@ struct Dir_Ulmen {
 // --- Bracket: every drawing call lies between setup and release; brackets are never nested ---
 FENN_API void Zeb_setup(HWND wnd, const char* tag); // no clip at the start; a null window paints nothing
 FENN_API void Zeb_release();
-FENN_API int Zeb_test();                                // not 0 inside a bracket
-FENN_API HDC Zeb_GetDC(HWND wnd, const char* tag);      // for measuring, apart from the bracket
+FENN_API int Zeb_test();                           // not 0 inside a bracket
+FENN_API HDC Zeb_GetDC(HWND wnd, const char* tag); // for measuring, apart from the bracket
 FENN_API void Zeb_ReleaseDC(HWND wnd, HDC dc);
 
 // --- State ---
-FENN_API void Zeb_color(unsigned long word);                         // of the lines and fills that follow
-FENN_API void Zeb_set_clip(int x, int y, int width, int height);     // lower left corner and size; a
-                                                                     // negative size clips everything
+FENN_API void Zeb_color(unsigned long word);                     // of the lines and fills that follow
+FENN_API void Zeb_set_clip(int x, int y, int width, int height); // lower left corner and size; a
+                                                                 // negative size clips everything
 FENN_API void Zeb_reset_clip();
 
 // --- Shapes ---
-FENN_API void move2s(unsigned int x, unsigned int y);                // a wrapped value means the negative one
-FENN_API void draw2s(unsigned int x, unsigned int y, int mode);      // the end point is not painted
+FENN_API void move2s(unsigned int x, unsigned int y);           // a wrapped value means the negative one
+FENN_API void draw2s(unsigned int x, unsigned int y, int mode); // the end point is not painted
 FENN_API void draw_rectangle(int left, int top, int right, int bottom);      // outline on those coordinates
 FENN_API void draw_fill_rectangle(int left, int top, int right, int bottom); // columns left to right - 1,
                                                                              // rows bottom + 1 to top
@@ -67,7 +67,7 @@ FENN_API void draw_image(const char* pixels, int x, int y, int source_x, int sou
 
 // --- Text; a null font means arial 12 ---
 FENN_API void Zeb_Font_Color(unsigned long text, unsigned long back);
-FENN_API int Zeb_Font_Size_Height(HFONT font);                    // line height, pixels
+FENN_API int Zeb_Font_Size_Height(HFONT font);                      // line height, pixels
 FENN_API int Zeb_Font_Size_String(HFONT font, const wchar_t* text); // width, pixels
 FENN_API int Zeb_Font_Size_String(HFONT font, const char* text);
 FENN_API int Zeb_Font_Write(HFONT font, int x, int y, const wchar_t* text); // lower left corner; gives the

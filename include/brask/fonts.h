@@ -7,7 +7,7 @@
 // A font from the process-wide ring cache of 16. The handle belongs to the cache: do not delete it, and
 // ask anew at each use, since 16 other requests recycle it.
 //   wnd     any window, or null: only its resolution is asked
-//   name    family; null means "Arial"
+//   name    family, told apart by its first 79 characters; null means "Arial"
 //   weight  "bold" for bold; told apart in the cache by the first letter
 //   slant   "i" or "o" for slanted; likewise
 //   size    points at 96 dots per inch; 0 or negative means 12

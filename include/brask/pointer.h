@@ -27,7 +27,7 @@ BRASK_API void Set_Curs_Cross(HWND wnd);
 BRASK_API void Set_Curs_Drag(HWND wnd); // looks like the arrow, counts as its own shape
 // Back to the cursor from before the last shape; with no shape up, ends the busy state whatever its depth.
 BRASK_API void Reset_Curs(HWND wnd);
-// Enters one level of the busy state; 255 levels at most.
+// Enters one level of the busy state; the count of levels wraps past 255.
 BRASK_API void Set_Curs_Wait(HWND wnd);
 // Leaves one level; the last one gives the cursor back.
 BRASK_API void Reset_Curs_Wait(HWND wnd);

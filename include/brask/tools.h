@@ -136,11 +136,13 @@ class BRASK_API Tools {
     void Color_Set(unsigned int word);                                 // drawing word; A stays
     void Color_Set(Colors color);                                      // A stays
     // Gives the control a surface of its own, Dim_X by Dim_Y, filled with a surface word. 1, or 0 with a
-    // report when memory fails. A size below 1 gives 1 and nothing to paint on.
+    // report when memory fails or the size is beyond any screen (more than 64 million pixels). A size below
+    // 1 gives 1 and nothing to paint on. A surface made here is not shown at another size than it was made
+    // for: the control looks flat then.
     int Alloc_Graph_Normal(unsigned long word);
     int Alloc_Graph_Select(unsigned long word);
     // A new shaded surface of the control's size, darkest at the upper left; flat with OUTIL_FLAT or
-    // Tool_Looks. From malloc, the caller's to free; null when memory fails.
+    // Tool_Looks. From malloc, the caller's to free; null when memory fails or the size is beyond any screen.
     DWORD* Inside_3D(Colors color);
 
     // --- Painting; each opens and closes its own bracket on Wnd ---
@@ -150,7 +152,7 @@ class BRASK_API Tools {
     void Clear(unsigned int word);                                 // drawing word; one row higher
     void Clear(Colors color); // ignores its argument and paints in Color; one row higher
     // The bevel: a dark outer line (unless flag has CADRE_NO_LINE) and `width` rings; dir 0 stands out,
-    // else it is sunken. A width below 1 paints the line alone.
+    // else it is sunken. A width below 1 paints the line alone. The rings shade Color.
     void Cadre(long flag, int dir, int width, int x1, int x2, int y1, int y2);
     // The outline look: one blue rectangle, a pixel inside.
     void Cadre_Outline(int x1, int x2, int y1, int y2);
@@ -161,10 +163,12 @@ class BRASK_API Tools {
     void Fill_Grey(int x1, int x2, int y1, int y2);
     void Fill_Red(int x1, int x2, int y1, int y2);
     void Fill_Yellow(int x1, int x2, int y1, int y2);
-    // Copies the inner window of a surface of the control's size; without one fills, with the highlight
-    // colour when `on` is not 0, else with Color. `inset` is the bevel width plus 1.
+    // Copies the inner window of a surface of the control's size; without one (or with one that is known to
+    // be of another size) fills, with the highlight colour when `on` is not 0, else with Color. `inset` is
+    // the bevel width plus 1.
     void Fill_Select(int on, const char* image, long flag, int inset, int x1, int x2, int y1, int y2);
-    // A small bevelled triangle: dir 0 left, 1 right, 2 down, 3 up.
+    // A small bevelled triangle in the middle of the rectangle: dir 0 left, 1 right, 2 down, 3 up; others
+    // paint nothing, and neither does a `larg` (its length and width) that is not above `border` (its inset).
     void Arrow(int dir, int border, int larg, int x, int dx, int y, int dy);
     // Writes text inside a rectangle, clipped to it. `flag` places it (TEXT_*); color 0 is the default
     // colour. Characters whose low byte is 1 to 6 change the colour of what follows (blue, black, white,
