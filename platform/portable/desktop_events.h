@@ -9,14 +9,13 @@ namespace platform {
 
 constexpr unsigned kNumLock = 1;
 constexpr unsigned kCapsLock = 2;
-constexpr unsigned kScrollLock = 4;
 
 struct DesktopKey {
     int scancode = 0; // the desktop's: usage numbers of the USB keyboard page
     int symbol = 0;   // the layout's character without modifiers; 0 or above 0x10FFFF: none
     bool down = false;
     bool alt_graph = false; // the key is AltGr: it is no Alt, and never reported
-    unsigned locks = 0;     // which locks are on, after this event
+    unsigned locks = 0;     // kNumLock, kCapsLock: which are on, after this event
     DWORD time = 0;
 };
 void desktop_key(const DesktopKey& key);

@@ -79,7 +79,7 @@ static LPARAM key_word(const Held& held, bool was_down, bool down) {
     DWORD word = 1 | static_cast<DWORD>(held.scan) << 16;
     if (held.extended) word |= static_cast<DWORD>(KF_EXTENDED) << 16;
     if (keys_now().is_down(VK_MENU)) word |= static_cast<DWORD>(KF_ALTDOWN) << 16;
-    if (was_down) word |= static_cast<DWORD>(KF_REPEAT) << 16;
+    if (was_down || !down) word |= static_cast<DWORD>(KF_REPEAT) << 16;
     if (!down) word |= static_cast<DWORD>(KF_UP) << 16;
     return static_cast<LPARAM>(word);
 }
@@ -154,9 +154,7 @@ void desktop_key(const DesktopKey& key) {
 void release_keys(DWORD time) {
     DesktopKey up;
     up.time = time;
-    const KeyState& taken = keys_now();
-    up.locks = (taken.keys[VK_NUMLOCK] & 1 ? kNumLock : 0) | (taken.keys[VK_CAPITAL] & 1 ? kCapsLock : 0) |
-               (taken.keys[VK_SCROLL] & 1 ? kScrollLock : 0);
+    up.locks = keys_now().locks();
     for (std::size_t code = 0; code < keyboard.held.size(); code++) {
         up.scancode = static_cast<int>(code);
         if (keyboard.held[code].key) desktop_key(up);

@@ -48,7 +48,10 @@ void KeyState::set_locks(unsigned locks) {
     };
     toggle(VK_NUMLOCK, locks & kNumLock);
     toggle(VK_CAPITAL, locks & kCapsLock);
-    toggle(VK_SCROLL, locks & kScrollLock);
+}
+
+unsigned KeyState::locks() const {
+    return (keys[VK_NUMLOCK] & 1 ? kNumLock : 0) | (keys[VK_CAPITAL] & 1 ? kCapsLock : 0);
 }
 
 KeyState& keys_now() {

@@ -13,6 +13,7 @@ struct KeyState {
     // Left and right modifiers carry the common one along.
     void set(int key, bool down);
     void set_locks(unsigned locks);
+    unsigned locks() const;
 };
 
 KeyState& keys_now();

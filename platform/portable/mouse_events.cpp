@@ -40,11 +40,13 @@ static Input mouse_input(HWND wnd, UINT message, POINT screen, DWORD time) {
     return input;
 }
 
+// The pointer moved there; false: no such window, it stays where it was.
 static bool locate(HWND wnd, int x, int y, POINT* screen) {
     *screen = {x, y};
-    if (!ClientToScreen(wnd, screen)) return false;
+    const bool known = ClientToScreen(wnd, screen);
+    if (!known) *screen = pointer_position();
     set_pointer_position(*screen);
-    return true;
+    return known;
 }
 
 void desktop_mouse_move(HWND wnd, int x, int y, DWORD time) {
@@ -61,8 +63,9 @@ void desktop_mouse_move(HWND wnd, int x, int y, DWORD time) {
 }
 
 void desktop_button(HWND wnd, int button, bool down, int x, int y, DWORD time) {
+    if (button < 1 || button > 5) return;
     POINT screen;
-    if (button < 1 || button > 5 || !locate(wnd, x, y, &screen)) return;
+    if (!locate(wnd, x, y, &screen)) wnd = nullptr; // released outside of all windows: it counts all the same
     const ButtonRow& row = kButtons[button - 1];
     keys_now().set(row.key, down);
     Input input = mouse_input(wnd, down ? row.down : row.up, screen, time);
@@ -96,27 +99,28 @@ void desktop_mouse_leave(HWND wnd) {
 
 struct Click {
     HWND wnd;
-    UINT message;
+    const ButtonRow* button;
     DWORD time;
     POINT at;
 };
 static Click last_click;
 
 // The second press of a pair becomes a double click; the third starts anew.
-static bool is_second_click(const MSG& msg) {
+static bool is_second_click(const MSG& msg, const ButtonRow& button) {
     constexpr int kReach = 2; // pixels to each side
-    const Click click = {msg.hwnd, msg.message, msg.time, msg.pt};
+    const Click click = {msg.hwnd, &button, msg.time, msg.pt};
     const bool near =
         std::abs(click.at.x - last_click.at.x) <= kReach && std::abs(click.at.y - last_click.at.y) <= kReach;
-    const bool second = near && click.wnd == last_click.wnd && click.message == last_click.message &&
+    const bool second = near && click.wnd == last_click.wnd && click.button == last_click.button &&
                         click.time - last_click.time <= GetDoubleClickTime();
     last_click = second ? Click{} : click;
     return second;
 }
 
-static const ButtonRow* pressed_button(UINT message) {
+// The button that a press is of; null: not a press.
+static const ButtonRow* pressed_button(const MSG& msg) {
     for (const ButtonRow& row : kButtons) {
-        if (row.down == message) return &row;
+        if (row.down == msg.message && row.extra == HIWORD(msg.wParam)) return &row;
     }
     return nullptr;
 }
@@ -141,7 +145,7 @@ static void before_mouse(const MSG& msg) {
         SendMessageW(msg.hwnd, WM_SETCURSOR, reinterpret_cast<WPARAM>(msg.hwnd),
                      MAKELPARAM(HTCLIENT, msg.message));
     }
-    if (pressed_button(msg.message)) activate_window(msg.hwnd, WA_CLICKACTIVE);
+    if (pressed_button(msg)) activate_window(msg.hwnd, WA_CLICKACTIVE);
 }
 
 bool mouse_message(const Input& input, bool take, MSG* msg) {
@@ -154,9 +158,9 @@ bool mouse_message(const Input& input, bool take, MSG* msg) {
     *msg = {wnd, input.message, input.wparam, where, input.time, input.screen};
     if (!take) return true;
     before_mouse(*msg);
-    const Window* window = find_window(wnd);
-    const ButtonRow* pressed = pressed_button(msg->message);
-    if (window && pressed && is_second_click(*msg) && window->type->style & CS_DBLCLKS)
+    const Window* window = find_window(wnd); // it may have ended
+    const ButtonRow* pressed = pressed_button(*msg);
+    if (window && pressed && is_second_click(*msg, *pressed) && window->type->style & CS_DBLCLKS)
         msg->message = pressed->twice;
     return window != nullptr;
 }

@@ -6,6 +6,7 @@
 #include "../desktop_events.h"
 #include "../input.h"
 #include "../process.h"
+#include "alt_graph.h"
 #include "sdl_library.h"
 
 // Events of the desktop, one handler for each kind.
@@ -22,8 +23,7 @@ static DWORD time_of(const SdlLibrary& sdl, Uint32 timestamp) {
 }
 
 static unsigned locks_of(Uint16 mods) {
-    return (mods & KMOD_NUM ? kNumLock : 0) | (mods & KMOD_CAPS ? kCapsLock : 0) |
-           (mods & KMOD_SCROLL ? kScrollLock : 0);
+    return (mods & KMOD_NUM ? kNumLock : 0) | (mods & KMOD_CAPS ? kCapsLock : 0);
 }
 
 static void on_key(const SdlLibrary& sdl, const SDL_KeyboardEvent& event) {
@@ -31,7 +31,7 @@ static void on_key(const SdlLibrary& sdl, const SDL_KeyboardEvent& event) {
     key.scancode = event.keysym.scancode;
     key.symbol = event.keysym.sym & SDLK_SCANCODE_MASK ? 0 : event.keysym.sym;
     key.down = event.type == SDL_KEYDOWN;
-    key.alt_graph = event.keysym.sym == SDLK_MODE;
+    key.alt_graph = is_alt_graph(sdl, event);
     key.locks = locks_of(event.keysym.mod);
     key.time = time_of(sdl, event.timestamp);
     desktop_key(key);
@@ -103,8 +103,8 @@ void desktop_pump() {
 bool desktop_wait(int milliseconds) {
     const SdlLibrary* sdl = sdl_opened();
     if (!sdl) return false;
-    SDL_Event event;
-    if (sdl->SDL_WaitEventTimeout(&event, milliseconds)) handle(*sdl, event);
+    // The event stays queued: a key and its text have to be read in one go.
+    if (sdl->SDL_WaitEventTimeout(nullptr, milliseconds)) desktop_pump();
     return true;
 }
 

@@ -31,7 +31,6 @@ static const Hint kHints[] = {
     {SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1"},
     {SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1"}, // the click that activates a window counts
     {SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0"},
-    {SDL_HINT_MOUSE_AUTO_CAPTURE, "0"}, // capture is the host's
 };
 
 static const char* start(SdlLibrary& library) {

@@ -2,6 +2,7 @@
 #define PLATFORM_PORTABLE_SDL_SDL_LIBRARY_H
 
 #include <SDL.h>
+#include <SDL_syswm.h>
 
 // The desktop library, opened at run time: a process that shows no window never loads it.
 namespace platform {
@@ -16,6 +17,7 @@ namespace platform {
     X(SDL_GetWindowFromID)                                                                                   \
     X(SDL_GetWindowData)                                                                                     \
     X(SDL_GetWindowSurface)                                                                                  \
+    X(SDL_GetWindowWMInfo)                                                                                   \
     X(SDL_HideWindow)                                                                                        \
     X(SDL_InitSubSystem)                                                                                     \
     X(SDL_MaximizeWindow)                                                                                    \
