@@ -4,8 +4,12 @@
 
 #include <algorithm>
 #include <clocale>
+#include <cstring>
 #include <cwchar>
+#include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -198,6 +202,39 @@ TEST(Format, SizeZeroWritesNothing) {
     EXPECT_EQ(sized(&untouched, 0, L"%d", 12345), 5);
     EXPECT_EQ(untouched, L'#');
     EXPECT_EQ(sized(static_cast<char*>(nullptr), 0, "%s", "abc"), 3);
+}
+
+// More zeros, whole and floating, than a short format can take.
+template <std::size_t... Each>
+int with_zeros(std::vector<char>& out, const std::string& format, std::index_sequence<Each...>) {
+    return sized(out.data(), out.size(), format.c_str(), 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0, 0.0,
+                 static_cast<long long>(Each * 0)...);
+}
+
+// Whatever stands in a format: at every size the output is a part of the whole, and nothing beyond is
+// touched.
+TEST(Format, SeededFormatsStayWithinTheirSize) {
+    constexpr std::make_index_sequence<40> zeros{};
+    std::mt19937 random(4711);
+    const std::string pieces = "%%%%%%*.#0-+ 123hhlzjtI64ddsSfgaencpxXu\x01\xF1\xC3\xA9yz";
+    for (int i = 0; i < 20000; ++i) {
+        std::string format;
+        std::wstring wide_format;
+        for (std::size_t n = random() % 24; n > 0; --n) {
+            format += pieces[random() % pieces.size()];
+            wide_format += static_cast<wchar_t>(static_cast<unsigned char>(format.back()));
+        }
+        std::vector<char> whole(4096),
+            out(random() % 20 + 1, '#'); // on the heap, where a step too far is found
+        const int length = with_zeros(whole, format, zeros);
+        EXPECT_EQ(with_zeros(out, format, zeros), length) << format;
+        EXPECT_LT(std::strlen(out.data()), out.size());
+        EXPECT_EQ(std::strncmp(whole.data(), out.data(), std::strlen(out.data())), 0) << format;
+        std::vector<wchar_t> bare_out(random() % 20 + 1);
+        const int bare_length = text::format_bare(bare_out.data(), bare_out.size(), wide_format.c_str());
+        ASSERT_LE(bare_length, static_cast<int>(wide_format.size()));
+        ASSERT_LE(std::wcslen(bare_out.data()), static_cast<std::size_t>(bare_length));
+    }
 }
 
 TEST(Format, BareFormatsPrintNoConversion) {
