@@ -121,8 +121,10 @@ TEST_F(Keyboard, EveryExtendedKeyDown) {
         for (int key = 0; key < 256; ++key) {
             SCOPED_TRACE(testing::Message() << "key " << key << " mods " << mods);
             const bool pad = key == 13 || key == 106 || key == 107 || key == 109 || key == 110 || key == 111;
-            const bool far = (key >= 33 && key <= 40) || key == 45 || key == 46;
-            EXPECT_EQ(parse(WM_KEYDOWN, key, kExtended), mods + (pad ? key + 0x1000 : far ? key + 0x800 : 0));
+            const bool navigation = (key >= 33 && key <= 40) || key == 45 || key == 46;
+            EXPECT_EQ(parse(WM_KEYDOWN, key, kExtended), mods + (pad          ? key + 0x1000
+                                                                 : navigation ? key + 0x800
+                                                                              : 0));
             EXPECT_EQ(tag, "WM_KEYDOWN:extended keys");
             EXPECT_EQ(take_skip(), pad);
         }
@@ -212,10 +214,12 @@ TEST_F(Keyboard, EveryKeyDownWithAlt) {
                     EXPECT_EQ(tag, "WM_SYSKEYDOWN:ALTKEY");
                     continue;
                 }
-                const bool far =
+                const bool navigation =
                     (key >= 33 && key <= 40) || key == 45 || key == 46 || (key >= 112 && key <= 123);
                 const int enter = bits & kExtended ? 13 + 0x1000 : 13;
-                const int expected = mods + (key == 13 || key == 108 ? enter : far ? key + 0x800 : key);
+                const int expected = mods + (key == 13 || key == 108 ? enter
+                                             : navigation            ? key + 0x800
+                                                                     : key);
                 EXPECT_EQ(code, expected);
                 EXPECT_EQ(tag, hex("WM_SYSKEYDOWN:", expected));
                 EXPECT_FALSE(take_skip());
@@ -242,9 +246,9 @@ Pushed pushed(int k, bool extended, int mods) {
     if (k == 27) return {0, "WM_USER_CHAR:ESC", false};
     if (k >= 48 && k <= 57) return {k, "WM_USER_CHAR:0-9", false};
     if (extended) {
-        const bool far = (k >= 33 && k <= 40) || k == 45 || k == 46;
+        const bool navigation = (k >= 33 && k <= 40) || k == 45 || k == 46;
         return {mods + (k == 13 || operators ? k + 0x1000
-                        : far                ? k + 0x800
+                        : navigation         ? k + 0x800
                                              : 0),
                 "WM_USER_CHAR:extended keys", false};
     }
