@@ -1,0 +1,120 @@
+#include "mix.h"
+
+#include <cstddef>
+#include <cstring>
+
+#if defined(__x86_64__)
+#include <immintrin.h>
+#endif
+
+namespace raster {
+namespace {
+
+constexpr int EIGHT = 8;
+
+#ifdef __SSE2__
+// Four pixels, as two in lanes of 16 bits; the same rounding as mix.
+__m128i mix_lanes(__m128i over, __m128i under, __m128i cover) {
+    const __m128i rest = _mm_sub_epi16(_mm_set1_epi16(255), cover);
+    const __m128i sum = _mm_add_epi16(_mm_mullo_epi16(over, cover), _mm_mullo_epi16(under, rest));
+    const __m128i raised = _mm_add_epi16(sum, _mm_set1_epi16(128));
+    return _mm_srli_epi16(_mm_add_epi16(raised, _mm_srli_epi16(raised, 8)), 8);
+}
+
+void mix_four(std::uint32_t* to, std::uint32_t coverage, __m128i color) {
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i under = _mm_loadu_si128(reinterpret_cast<const __m128i*>(to));
+    const __m128i pairs = _mm_cvtsi32_si128(static_cast<int>(coverage));
+    const __m128i cover =
+        _mm_unpacklo_epi16(_mm_unpacklo_epi8(pairs, pairs), _mm_unpacklo_epi8(pairs, pairs));
+    const __m128i low = mix_lanes(color, _mm_unpacklo_epi8(under, zero), _mm_unpacklo_epi8(cover, zero));
+    const __m128i high = mix_lanes(color, _mm_unpackhi_epi8(under, zero), _mm_unpackhi_epi8(cover, zero));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(to), _mm_packus_epi16(low, high));
+}
+
+// Text is mostly ground: four pixels without coverage are passed over together. Gives how far it came.
+int mix_fours(std::uint32_t* to, const std::uint8_t* coverage, int count, std::uint32_t color) {
+    const __m128i lanes = _mm_unpacklo_epi8(_mm_set1_epi32(static_cast<int>(color)), _mm_setzero_si128());
+    int i = 0;
+    for (; i + 4 <= count; i += 4) {
+        std::uint32_t four;
+        std::memcpy(&four, coverage + i, sizeof four);
+        if (four) mix_four(to + i, four, lanes);
+    }
+    return i;
+}
+#else
+int mix_fours(std::uint32_t*, const std::uint8_t*, int, std::uint32_t) { return 0; }
+#endif
+
+#if defined(__x86_64__) && defined(__ELF__) // elsewhere the stack need not be aligned for such registers
+bool wide_registers() {
+    static const bool there = __builtin_cpu_supports("avx2");
+    return there;
+}
+
+__attribute__((target("avx2"))) inline __m256i mix_lanes(__m256i over, __m256i under, __m256i cover) {
+    const __m256i rest = _mm256_sub_epi16(_mm256_set1_epi16(255), cover);
+    const __m256i sum = _mm256_add_epi16(_mm256_mullo_epi16(over, cover), _mm256_mullo_epi16(under, rest));
+    const __m256i raised = _mm256_add_epi16(sum, _mm256_set1_epi16(128));
+    return _mm256_srli_epi16(_mm256_add_epi16(raised, _mm256_srli_epi16(raised, 8)), 8);
+}
+
+__attribute__((target("avx2"))) inline void mix_eight(std::uint32_t* to, std::uint64_t coverage,
+                                                      __m256i color) {
+    // Each coverage byte goes beside all four channels of its pixel.
+    const __m256i channels = _mm256_set_epi8(12, 12, 12, 12, 8, 8, 8, 8, 4, 4, 4, 4, 0, 0, 0, 0, //
+                                             12, 12, 12, 12, 8, 8, 8, 8, 4, 4, 4, 4, 0, 0, 0, 0);
+    const __m256i zero = _mm256_setzero_si256();
+    const __m256i bytes = _mm256_cvtepu8_epi32(_mm_cvtsi64_si128(static_cast<long long>(coverage)));
+    const __m256i cover = _mm256_shuffle_epi8(bytes, channels);
+    const __m256i under = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(to));
+    const __m256i low =
+        mix_lanes(color, _mm256_unpacklo_epi8(under, zero), _mm256_unpacklo_epi8(cover, zero));
+    const __m256i high =
+        mix_lanes(color, _mm256_unpackhi_epi8(under, zero), _mm256_unpackhi_epi8(cover, zero));
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(to), _mm256_packus_epi16(low, high));
+}
+
+// Rows of at least eight pixels. The last eight overlap those before them, whose coverage is taken away, so
+// that they stay as they are.
+__attribute__((target("avx2"))) void mix_eights(const Covering& work) {
+    const __m256i lanes =
+        _mm256_unpacklo_epi8(_mm256_set1_epi32(static_cast<int>(work.color)), _mm256_setzero_si256());
+    const int whole = work.count & -EIGHT, rest = work.count - whole;
+    const int done_bits = 8 * (EIGHT - rest);
+    std::uint32_t* to = work.to;
+    const std::uint8_t* coverage = work.coverage;
+    for (int row = 0; row < work.rows; ++row, to += work.pitch, coverage += work.coverage_pitch) {
+        std::uint64_t eight;
+        for (int i = 0; i < whole; i += EIGHT) {
+            std::memcpy(&eight, coverage + i, sizeof eight);
+            if (eight) mix_eight(to + i, eight, lanes);
+        }
+        if (!rest) continue;
+        const int last = work.count - EIGHT;
+        std::memcpy(&eight, coverage + last, sizeof eight);
+        eight = eight >> done_bits << done_bits;
+        if (eight) mix_eight(to + last, eight, lanes);
+    }
+}
+#else
+bool wide_registers() { return false; }
+void mix_eights(const Covering&) {}
+#endif
+
+void mix_row(std::uint32_t* to, const std::uint8_t* coverage, int count, std::uint32_t color) {
+    for (int i = mix_fours(to, coverage, count, color); i < count; ++i)
+        to[i] = mix(color, to[i], coverage[i]);
+}
+
+} // namespace
+
+void mix_rows(const Covering& work) {
+    if (work.count >= EIGHT && wide_registers()) return mix_eights(work);
+    for (std::ptrdiff_t row = 0; row < work.rows; ++row)
+        mix_row(work.to + row * work.pitch, work.coverage + row * work.coverage_pitch, work.count,
+                work.color);
+}
+
+} // namespace raster
