@@ -246,6 +246,7 @@ class ButtonSection {
         case Click::toggle: button.Cur_Value = !button.Cur_Value; break;
         case Click::lamp: button.Lamp_Color = (button.Lamp_Color + 1) % 5; break;
         }
+        if (button.Flag & (OUTIL_EMPTY | GRAPH_OUTLINE)) button.Clear(); // no face covers the old label
         button.Adjust();
     }
     static void give_pictures(Buttons& button, int pictures) {

@@ -64,11 +64,14 @@ void Strip::layout(HWND wnd, const Area& area) {
     Area inner = area.inset(BORDER + SPACE);
     Area fields = inner.cut_left(inner.width * 55 / 100);
     inner.cut_left(SPACE);
-    Boxs* boxes[] = {&event, &key, &cursor};
-    for (int i = 0; i < 3; i++)
-        fields.cell(i, 3, 0, 1).give(*boxes[i]);
+    int whole = fields.width;
+    fields.cut_left(whole * 27 / 100).give(event);
+    fields.cut_left(SPACE);
+    fields.cut_left(whole * 45 / 100).give(key);
+    fields.cut_left(SPACE);
+    fields.give(cursor);
     panel.Init(wnd);
-    for (Boxs* field : boxes)
+    for (Boxs* field : {&event, &key, &cursor})
         field->Init(wnd);
     for (int i = 0; i < shapes; i++) {
         inner.cell(i, shapes, 0, 1).give(button[i]);

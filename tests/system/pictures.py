@@ -19,7 +19,11 @@ class Picture:
         return Picture(width, height, [row[3 * x : 3 * (x + width)] for row in self.rows[y : y + height]])
 
     def save(self, path):
-        data = zlib.compress(b"".join(b"\0" + bytes(row) for row in self.rows), 1)
+        above, packed = bytes(3 * self.width), []
+        for row in self.rows:
+            packed.append(_filter(row, above))
+            above = row
+        data = zlib.compress(b"".join(packed), 9)
         head = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
         with open(path, "wb") as file:
             file.write(b"\x89PNG\r\n\x1a\n")
@@ -35,6 +39,18 @@ def differences(a, b):
             for x in range(a.width):
                 if a.at(x, y) != b.at(x, y):
                     yield x, y
+
+
+def _filter(row, above):
+    """The row as its differences to the left, to above, or to both, whichever are the smallest."""
+    left, corner = b"\0\0\0" + row[:-3], b"\0\0\0" + above[:-3]
+    ways = [
+        (1, bytes((a - b) & 255 for a, b in zip(row, left))),
+        (2, bytes((a - b) & 255 for a, b in zip(row, above))),
+        (4, bytes((a - _paeth(b, c, d)) & 255 for a, b, c, d in zip(row, left, above, corner))),
+    ]
+    kind, line = min(ways, key=lambda way: sum(min(byte, 256 - byte) for byte in way[1]))
+    return bytes([kind]) + line
 
 
 def _paeth(left, up, corner):

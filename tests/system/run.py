@@ -5,6 +5,7 @@ import shutil
 import subprocess
 import sys
 
+import documents
 import hosts
 import pages
 from display import Display, System
@@ -32,13 +33,13 @@ class Tally:
         self.skipped += 1
         print(f"SKIPPED, NOT PROVEN: {what}", flush=True)
 
-    def scene(self, system, scene, *arguments):
+    def scene(self, scene, *arguments):
         """One scene; an error in it is a failure, and the others go on."""
-        name = f"{system.name} {scene.__name__}"
         try:
-            scene(self, system, *arguments)
+            scene(self, *arguments)
         except Exception as error:
-            self.check(name, f"{type(error).__name__}: {error}")
+            names = " ".join(getattr(argument, "name", "") for argument in arguments)
+            self.check(f"{scene.__name__} {names}", f"{type(error).__name__}: {error}")
 
 
 def windows_system(folder, tally, display):
@@ -57,6 +58,7 @@ def windows_system(folder, tally, display):
 
 def main(native_folder, windows_folder):
     tally = Tally("build/system")
+    tally.scene(documents.pages)
     systems = [System("native", native_folder, "", [])]
     display = Display()
     try:
@@ -64,11 +66,11 @@ def main(native_folder, windows_folder):
         if windows:
             systems.append(windows)
         for system in systems:
-            tally.scene(system, hosts.options)
+            tally.scene(hosts.options, system)
             for scene in (pages.basics, pages.sizes, hosts.hello):
-                tally.scene(system, scene, display)
+                tally.scene(scene, system, display)
         if windows:
-            tally.scene(windows, hosts.same_pictures, systems[0])
+            tally.scene(hosts.same_pictures, windows, systems[0])
     finally:
         display.close()
     skipped = f", {tally.skipped} skipped" if tally.skipped else ""

@@ -1,0 +1,37 @@
+"""What can be proven of the written pages: their links lead somewhere, and the code that they show is the real one."""
+
+import os
+import re
+import subprocess
+
+
+def pages(tally):
+    files = subprocess.run(["git", "ls-files", "-co", "--exclude-standard", "*.md"], capture_output=True, text=True)
+    for page in files.stdout.split():
+        tally.check(f"links of {page}", dead_link(page))
+    with open("README.md", encoding="utf-8") as readme, open("examples/hello/main.cpp", encoding="utf-8") as host:
+        shown = f"```cpp\n{host.read()}```\n" in readme.read()
+    tally.check("README shows the small host", None if shown else "its code is another one")
+    tally.check("the picture is small", None if os.path.getsize("docs/pictures/basics.png") < 150_000 else "it is not")
+
+
+def dead_link(page):
+    """The first relative link to a file that is not there, or to a heading that the page does not have."""
+    with open(page, encoding="utf-8") as file:
+        text = re.sub(r"```.*?```", "", file.read(), flags=re.S)
+    for link in re.findall(r"\]\(([^)]+)\)", text):
+        path, _, heading = link.partition("#")
+        if "://" in link:
+            continue
+        target = os.path.normpath(os.path.join(os.path.dirname(page), path)) if path else page
+        if not os.path.exists(target):
+            return f"{link} leads nowhere"
+        if heading and heading not in headings(target):
+            return f"{link}: no such heading"
+    return None
+
+
+def headings(page):
+    with open(page, encoding="utf-8") as file:
+        lines = re.findall(r"^#+ (.*)$", file.read(), re.M)
+    return [re.sub(r"[^\w -]", "", line).strip().lower().replace(" ", "-") for line in lines]
