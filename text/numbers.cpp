@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
+
+#include "text/decimal.h"
 
 namespace text {
 namespace {
@@ -34,65 +37,103 @@ void clear(Number& number) {
     number.pads_with_zeros = true;
 }
 
-int write(Number& number, double value, std::chars_format format, int places) {
-    const auto end = std::to_chars(number.head, number.head + sizeof number.head, value, format, places).ptr;
-    return static_cast<int>(end - number.head);
-}
+void add_head(Number& number, char c) { number.head[number.head_size++] = c; }
 
-// Moves the exponent, if any, from the head to the tail.
-void split_exponent(Number& number, char mark) {
-    char* const end = number.head + number.head_size;
-    char* const exponent = std::find(number.head, end, mark);
-    number.tail_size = static_cast<int>(end - exponent);
-    std::memcpy(number.tail, exponent, number.tail_size);
-    number.head_size -= number.tail_size;
-}
-
-bool has_point(const Number& number) { return std::memchr(number.head, '.', number.head_size) != nullptr; }
-
-void print_places(Number& number, const Spec& spec, double value, std::chars_format format, int places) {
+// The places behind the point, and the point if there are any or the form asks for it.
+void add_places(Number& number, const Spec& spec, const Decimal& decimal, int from, int places) {
     const int real = std::min(places, most_places);
-    number.head_size = write(number, value, format, real);
+    if (places > 0 || spec.alternate) add_head(number, '.');
+    for (int i = 0; i < real; ++i)
+        add_head(number, decimal.at(from + i));
     number.middle = places - real;
-    split_exponent(number, 'e');
-    if (spec.alternate && places == 0) number.head[number.head_size++] = '.';
+}
+
+void add_exponent(Number& number, char mark, int exponent, int least_digits) {
+    char* const tail = number.tail;
+    tail[0] = mark;
+    tail[1] = exponent < 0 ? '-' : '+';
+    number.tail_size = 2;
+    exponent = std::abs(exponent);
+    if (exponent < 10 && least_digits == 2) tail[number.tail_size++] = '0';
+    number.tail_size = static_cast<int>(
+        std::to_chars(tail + number.tail_size, tail + sizeof number.tail, exponent).ptr - tail);
+}
+
+int exponent_of(const Decimal& decimal) { return decimal.size > 0 ? decimal.point - 1 : 0; }
+
+void print_fixed(Number& number, const Spec& spec, Decimal& decimal, int places) {
+    round(decimal, decimal.point + std::min(places, most_places));
+    if (decimal.point < 1) add_head(number, '0');
+    for (int i = 0; i < decimal.point; ++i)
+        add_head(number, decimal.at(i));
+    add_places(number, spec, decimal, decimal.point, places);
+}
+
+void print_scientific(Number& number, const Spec& spec, Decimal& decimal, int places) {
+    round(decimal, std::min(places, most_places) + 1);
+    add_head(number, decimal.at(0));
+    add_places(number, spec, decimal, 1, places);
+    add_exponent(number, 'e', exponent_of(decimal), 2);
 }
 
 // The shorter of both forms, with `precision` significant digits.
-void print_general(Number& number, const Spec& spec, double value, int precision) {
+void print_general(Number& number, const Spec& spec, Decimal& decimal, int precision) {
     const int digits = std::max(precision, 1);
-    const int real = std::min(digits, most_places);
-    number.head_size = write(number, value, std::chars_format::scientific, real - 1);
-    split_exponent(number, 'e');
-    int exponent = 0;
-    std::from_chars(number.tail + (number.tail[1] == '+' ? 2 : 1), number.tail + number.tail_size, exponent);
-    const bool fixed = exponent >= -4 && exponent < digits;
-    if (fixed)
-        print_places(number, spec, value, std::chars_format::fixed, digits - 1 - exponent);
+    round(decimal, digits);
+    const int exponent = exponent_of(decimal);
+    if (exponent >= -4 && exponent < digits)
+        print_fixed(number, spec, decimal, digits - 1 - exponent);
     else
-        print_places(number, spec, value, std::chars_format::scientific, digits - 1);
+        print_scientific(number, spec, decimal, digits - 1);
     if (spec.alternate) return;
     number.middle = 0;
-    if (!has_point(number)) return;
+    if (!std::memchr(number.head, '.', static_cast<std::size_t>(number.head_size))) return;
     while (number.head[number.head_size - 1] == '0')
         --number.head_size;
     if (number.head[number.head_size - 1] == '.') --number.head_size;
 }
 
+// The mantissa's own digits; as many as there are, unless a precision is given.
 void print_hex(Number& number, const Spec& spec, double value) {
+    constexpr int fraction_bits = 52, fraction_digits = fraction_bits / 4;
+    std::uint64_t bits;
+    std::memcpy(&bits, &value, sizeof bits);
+    const int biased = static_cast<int>(bits >> fraction_bits);
+    std::uint64_t mantissa = bits & ((std::uint64_t{1} << fraction_bits) - 1);
+    if (biased > 0) mantissa |= std::uint64_t{1} << fraction_bits;
+    const int exponent = value == 0 ? 0 : std::max(biased, 1) - 1023;
+    int digits = fraction_digits;
+    if (spec.precision >= 0 && spec.precision < digits) {
+        digits = spec.precision;
+        const std::uint64_t unit = std::uint64_t{1} << 4 * (fraction_digits - digits);
+        const std::uint64_t rest = mantissa % unit;
+        mantissa -= rest;
+        if (rest > unit / 2 || (rest == unit / 2 && (mantissa & unit))) mantissa += unit;
+    }
+    if (spec.precision < 0)
+        while (digits > 0 && (mantissa >> 4 * (fraction_digits - digits) & 15) == 0)
+            --digits;
+
     add_prefix(number, '0');
     add_prefix(number, is_upper(spec.conversion) ? 'X' : 'x');
-    if (spec.precision < 0) {
-        const auto end =
-            std::to_chars(number.head, number.head + sizeof number.head, value, std::chars_format::hex).ptr;
-        number.head_size = static_cast<int>(end - number.head);
-    } else {
-        const int real = std::min(spec.precision, most_places);
-        number.head_size = write(number, value, std::chars_format::hex, real);
-        number.middle = spec.precision - real;
+    add_head(number, static_cast<char>('0' + (mantissa >> fraction_bits)));
+    if (digits > 0 || spec.alternate) add_head(number, '.');
+    for (int i = 1; i <= digits; ++i)
+        add_head(number, "0123456789abcdef"[mantissa >> 4 * (fraction_digits - i) & 15]);
+    number.middle = std::max(0, spec.precision - digits);
+    add_exponent(number, 'p', exponent, 1);
+}
+
+void print_finite(Number& number, const Spec& spec, double value) {
+    const int precision = spec.precision < 0 ? 6 : spec.precision;
+    if ((spec.conversion | 0x20) == 'a') return print_hex(number, spec, value);
+    Decimal decimal;
+    expand(decimal, value);
+    switch (spec.conversion | 0x20) {
+    case 'e': print_scientific(number, spec, decimal, precision); break;
+    case 'f': print_fixed(number, spec, decimal, precision); break;
+    default: print_general(number, spec, decimal, precision); break;
     }
-    split_exponent(number, 'p');
-    if (spec.alternate && !has_point(number)) number.head[number.head_size++] = '.';
 }
 
 } // namespace
@@ -121,18 +162,12 @@ void print_float(Number& number, const Spec& spec, double value) {
     clear(number);
     add_sign(number, spec, std::signbit(value));
     value = std::fabs(value);
-    const int precision = spec.precision < 0 ? 6 : spec.precision;
-    if (!std::isfinite(value)) {
+    if (std::isfinite(value)) {
+        print_finite(number, spec, value);
+    } else {
         std::memcpy(number.head, std::isnan(value) ? "nan" : "inf", 3);
         number.head_size = 3;
         number.pads_with_zeros = false;
-    } else {
-        switch (spec.conversion | 0x20) {
-        case 'e': print_places(number, spec, value, std::chars_format::scientific, precision); break;
-        case 'f': print_places(number, spec, value, std::chars_format::fixed, precision); break;
-        case 'g': print_general(number, spec, value, precision); break;
-        default: print_hex(number, spec, value); break;
-        }
     }
     if (is_upper(spec.conversion)) {
         to_upper(number.head, number.head_size);

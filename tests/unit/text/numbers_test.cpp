@@ -106,7 +106,8 @@ TEST(Numbers, FloatsAsTheCLibrary) {
 
 TEST(Numbers, HexadecimalFloatsAsTheCLibrary) {
     for (const char* conversion : {"a", "A"})
-        compare<double>(conversion, {1.0, -1.5, 0.1, 3.14159265358979, DBL_MAX, DBL_MIN, 0.0});
+        compare<double>(conversion, {1.0, -1.5, 0.1, 3.14159265358979, DBL_MAX, DBL_MIN, 0.0, 1.96875,
+                                     1.03125, std::numeric_limits<double>::denorm_min(), DBL_MIN / 3});
 }
 
 TEST(Numbers, SeededFloatsAsTheCLibrary) {
