@@ -70,7 +70,7 @@ void changed(const raster::Rect& rect) { add(rect, state.bracket.clip); }
 
 int flip(const raster::Canvas& canvas, int y) { return limit(std::int64_t{canvas.height} - 1 - y); }
 
-POINT pen() { return state.pen; }
+const POINT& pen() { return state.pen; }
 
 void set_pen(int x, int y) {
     state.pen = {x, y};

@@ -33,7 +33,7 @@ constexpr int limit(std::int64_t value) {
 }
 
 // Where lines start, in contract coordinates; the context's position follows it.
-POINT pen();
+const POINT& pen();
 void set_pen(int x, int y);
 
 } // namespace fenn

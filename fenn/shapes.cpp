@@ -68,7 +68,7 @@ using namespace fenn;
 FENN_API void move2s(unsigned int x, unsigned int y) { set_pen(static_cast<int>(x), static_cast<int>(y)); }
 
 FENN_API void draw2s(unsigned int x, unsigned int y, int) {
-    const POINT from = pen();
+    const raster::Point from{pen().x, pen().y};
     set_pen(static_cast<int>(x), static_cast<int>(y));
     if (const Bracket* const on = bracket())
         draw_line(*on, place(*on, from.x, from.y), place(*on, static_cast<int>(x), static_cast<int>(y)));

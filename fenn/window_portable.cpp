@@ -28,6 +28,7 @@ bool begin_window(Window& window) {
 
 // A window's handle is never given again, so its canvas alone tells that it is still there.
 bool refresh_window(Window& window) {
+    if (window.canvas.pixels && canvas_stands(window)) return true; // most brackets: no look at the table
     const raster::Canvas* const canvas = platform::window_canvas(window.wnd);
     if (!canvas) return false;
     window.canvas = *canvas;
