@@ -50,7 +50,9 @@ FNR == 1 || !header {
     else
         ratio = ""
     judged = kind == "most" ? (ours in values ? median(ours) : "") : ratio
-    if (judged == "")
+    if (goal == "-")
+        verdict = ""
+    else if (judged == "")
         verdict = "not seen"
     else if (kind == "more" ? judged >= goal + 0 : judged <= goal + 0)
         verdict = "met"
@@ -61,5 +63,5 @@ FNR == 1 || !header {
     sub(/\/.*/, "", owner)
     printf "%-31s %-30s %-44s %8s %9s %s\n", trimmed(cell[1]), shown(ours),
         best == "" ? "-" : owner " " shown(best), ratio == "" ? "-" : sprintf("%.2f", ratio),
-        (kind == "more" ? ">= " : "<= ") goal, verdict
+        goal == "-" ? "" : (kind == "more" ? ">= " : "<= ") goal, verdict
 }

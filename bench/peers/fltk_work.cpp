@@ -48,19 +48,22 @@ void full_repaint(benchmark::State& state) {
 }
 BENCHMARK(full_repaint)->UseRealTime();
 
-void pointer_moves(benchmark::State& state) {
+void moves(benchmark::State& state, int ahead) {
     fltk_scene::Window& work = window();
     work.drawn = 0;
     long step = 0;
-    while (state.KeepRunningBatch(batch)) {
-        for (int i = 0; i < batch; i++)
+    while (state.KeepRunningBatch(ahead)) {
+        for (int i = 0; i < ahead; i++)
             work.move(layout::middle(layout::visited(step++)));
         XSync(fl_display, False);
     }
     if (work.drawn < state.iterations() * 19 / 10) state.SkipWithError("each move has two buttons to paint");
     state.SetItemsProcessed(state.iterations());
 }
+void pointer_moves(benchmark::State& state) { moves(state, 1); }
+void pointer_moves_ahead(benchmark::State& state) { moves(state, batch); }
 BENCHMARK(pointer_moves)->Iterations(10000)->UseRealTime();
+BENCHMARK(pointer_moves_ahead)->Iterations(10000)->UseRealTime();
 
 } // namespace
 
