@@ -68,20 +68,35 @@ TEST(Scripts, HebrewRunsFromRightToLeft) {
     EXPECT_NE(written(nullptr, L"אל"), written(nullptr, L"לא"));
 }
 
+// How wide the leftmost piece of ink is, up to the first empty column.
+std::size_t first_piece(const Picture& picture) {
+    const Picture shape = trimmed(picture);
+    std::size_t column = 0;
+    const auto is_used = [&](const std::string& row) { return row[column] != '.'; };
+    while (column < shape[0].size() && std::any_of(shape.begin(), shape.end(), is_used))
+        ++column;
+    return column;
+}
+
 TEST(Scripts, TheFirstLetterGivesTheDirectionOfTheWhole) {
-    const int mark = Zeb_Font_Size_String(nullptr, L"!");
-    EXPECT_EQ(written(nullptr, L"אל!"), written(nullptr, {{8, L"!"}, {8 + mark, L"אל"}}));
+    // The mark at the end of a Hebrew sentence stands on its left, a word before it on the right.
+    const std::size_t mark = first_piece(written(nullptr, L"!"));
+    EXPECT_LE(first_piece(written(nullptr, L"שש!")), mark + 1);
+    EXPECT_GT(first_piece(written(nullptr, L"!שש")), mark + 1);
+    EXPECT_GT(first_piece(written(nullptr, L"ששa!")), mark + 1);
     const int a = Zeb_Font_Size_String(nullptr, L"a");
     EXPECT_EQ(written(nullptr, L"aאל"), written(nullptr, {{8, L"a"}, {8 + a, L"אל"}}));
 }
 
 TEST(Scripts, ArabicLettersJoin) {
     const int alone = Zeb_Font_Size_String(nullptr, L"ب");
-    EXPECT_NE(Zeb_Font_Size_String(nullptr, L"ببب"), 3 * alone);
+    const Picture apart = written(nullptr, {{8, L"ب"}, {8 + alone, L"ب"}, {8 + 2 * alone, L"ب"}});
+    EXPECT_NE(trimmed(written(nullptr, L"ببب")), trimmed(apart));
 }
 
 TEST(Scripts, MarksSitOnTheirLetters) {
-    EXPECT_EQ(Zeb_Font_Size_String(nullptr, L"x\u0302"), Zeb_Font_Size_String(nullptr, L"x"));
+    // The letter may come from another face than alone: the one that has the mark too.
+    EXPECT_NEAR(Zeb_Font_Size_String(nullptr, L"x\u0302"), Zeb_Font_Size_String(nullptr, L"x"), 2);
     EXPECT_GT(ink(written(nullptr, L"x\u0302")), ink(written(nullptr, L"x")));
     EXPECT_NE(written(nullptr, L"x\u0302"), written(nullptr, L"x\u0301"));
 }

@@ -1,0 +1,54 @@
+#ifndef FENN_FONT_GDI_H
+#define FENN_FONT_GDI_H
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <brask/platform.h>
+
+#include "fenn/text_run.h"
+
+// GDI's fonts, and which of them shows a character. Files of the system with GDI.
+namespace fenn {
+
+// How wide a text is, and whether one call of GDI writes it.
+struct Measured {
+    int width;
+    bool is_plain;
+};
+
+// What is known of a font. Handles come again for other fonts, so it goes by the description.
+class GdiFont {
+  public:
+    explicit GdiFont(const LOGFONTW& description);
+    ~GdiFont();
+    GdiFont(const GdiFont&) = delete;
+    GdiFont& operator=(const GdiFont&) = delete;
+
+    // The font that shows a character: this one, another, or null when none does.
+    HFONT font_for(char32_t code, const wchar_t* units, int length);
+
+    HFONT own;
+    Font boxes; // its sizes, and the boxes that stand for characters without a glyph
+    std::map<std::wstring, Measured> texts;
+
+  private:
+    HFONT family_font(const std::wstring& family);
+    HFONT find_other(char32_t code, const wchar_t* units, int length);
+
+    LOGFONTW description;
+    std::map<std::wstring, HFONT> families;
+    std::map<char32_t, HFONT> others;
+};
+
+GdiFont& known_font(HFONT font);
+
+// A context for measuring, with nothing of anybody's on it.
+HDC measuring_context();
+// The font's own table of characters has it.
+bool font_has(HFONT font, const wchar_t* units, int length);
+
+} // namespace fenn
+
+#endif
