@@ -34,10 +34,10 @@ struct Area {
     int y1, y2; // bottom, top
 };
 
-// A float cut toward zero; what does not fit goes to the nearest end, and what is no number is 0.
-constexpr int cut(float v) {
-    if (v >= 2147483648.0f) return 2147483647;
-    if (v < -2147483648.0f) return -2147483647 - 1;
+// A number cut toward zero; what does not fit goes to the nearest end, and what is no number is 0.
+constexpr int cut(double v) {
+    if (v >= 2147483648.0) return 2147483647;
+    if (v <= -2147483649.0) return -2147483647 - 1;
     return v == v ? static_cast<int>(v) : 0;
 }
 
