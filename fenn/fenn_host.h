@@ -15,13 +15,14 @@ FENN_API int Fenn_Snapshot(HWND wnd, const wchar_t* file);
 FENN_API const DWORD* Fenn_Pixels(HWND wnd, int* width, int* height);
 
 // --- Reports ---
-// Receives each report that is listened to, formatted and without marks removed. It may be called from any
-// thread that reports; it must not report itself.
+// Receives each report that is listened to, formatted, with its marks. It is called by the thread that
+// reports, so by several at once if several do. What it reports itself is dropped.
 typedef void (*Fenn_Report)(void* user, HWND wnd, unsigned int code, const wchar_t* text);
-// Installs the one receiver; null gives the standard error stream back.
+// Installs the one receiver; null gives the standard error stream back, one line of UTF-8 for each report.
 FENN_API void Fenn_Set_Report(Fenn_Report report, void* user);
 // Turns one code on or off. At the start everything but the traces is on: codes 0x90000029, 0x90000027
-// and 0x90004009 are off. A report nobody listens to costs a few nanoseconds.
+// and 0x90004009 are off. At most 64 codes can be off at a time. A report nobody listens to costs a few
+// nanoseconds.
 FENN_API void Fenn_Listen(unsigned int code, int on);
 
 // --- Text ---
