@@ -12,6 +12,7 @@ from rules import Control
 
 SCREEN = (1400, 900)
 PATIENCE = 15  # seconds that something may take on a busy machine
+LEAKS = "print_suppressions=0:suppressions=" + os.path.join(os.path.dirname(os.path.abspath(__file__)), "leaks.txt")
 
 
 def wait_for(what, patience=PATIENCE):
@@ -101,9 +102,10 @@ class Window:
         self.display = display
         self.folder = tempfile.TemporaryDirectory()
         self.log = os.path.join(self.folder.name, "output")
+        environment = {**os.environ, "DISPLAY": display.name, "SDL_VIDEODRIVER": "x11", "LSAN_OPTIONS": LEAKS}
         with open(self.log, "ab") as log:
             self.process = subprocess.Popen(system.command(program, *words), stdout=log, stderr=subprocess.STDOUT,
-                                            env={**os.environ, "DISPLAY": display.name, "SDL_VIDEODRIVER": "x11"})
+                                            env=environment)
         ids = wait_for(lambda: display.xdotool("search", "--onlyvisible", "--name", f"^{title}$").split())
         if not ids:
             raise RuntimeError(f"{program} shows no window:\n" + self.output()[-2000:])

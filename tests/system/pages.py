@@ -220,7 +220,7 @@ def events(session):
 
 def shapes(session):
     """The strip names the pointer's shape, and the screen shows another picture for each."""
-    seen = {}
+    bare, arrow, cross = pointer_picture(session), None, None
     for name, shown in (("Arrow", "arrow"), ("Cross", "cross"), ("Busy", "busy"), ("Arrow", "busy"),
                         ("Not busy", "arrow"), ("Cross", "cross"), ("Reset", "arrow")):
         mark = session.window.mark()
@@ -228,20 +228,31 @@ def shapes(session):
         if name != "Arrow":  # the arrow is up at the start, and stays down while busy: nothing new to write
             session.writes(f"pointer shape after {name}", f"Cursor {shown}", mark)
         session.away()
-        if shown in seen:
-            same = wait_for(lambda: pointer_picture(session) == seen[shown], 5)
-            session.check(f"the {shown} again after {name}", None if same else "it looks different")
+        if shown == "busy":  # may be moving: it is known by not being one of the others
+            good = wait_for(lambda: lasting(session, lambda now: now not in (bare, arrow, cross)), 5)
+        elif shown == "cross" and not cross:
+            good = cross = wait_for(lambda: lasting(session, lambda now: now not in (bare, arrow)), 5)
+        elif shown == "arrow" and not arrow:
+            good = arrow = wait_for(lambda: lasting(session, lambda now: now != bare), 5)
         else:
-            new = wait_for(lambda: pointer_picture(session) not in seen.values(), 5)
-            session.check(f"the {shown} after {name}", None if new else "it looks like another shape")
-            time.sleep(0.2)
-            seen[shown] = pointer_picture(session)
+            good = wait_for(lambda: pointer_picture(session) == {"arrow": arrow, "cross": cross}[shown], 5)
+        session.check(f"the {shown} after {name}", None if good else "the screen shows another shape")
 
 
 def pointer_picture(session):
     """The screen around the pointer."""
     x, y = session.controls["label", "Greek"].spot()
     return b"".join(session.window.picture().crop(x - 20, y - 20, 40, 40).rows)
+
+
+def lasting(session, fits):
+    """The picture of the pointer, if it fits for a while; None when it does not."""
+    for _ in range(3):
+        picture = pointer_picture(session)
+        if not fits(picture):
+            return None
+        time.sleep(0.1)
+    return picture
 
 
 def keys(session):
