@@ -45,7 +45,7 @@ allowed() { # folder include
     done
     # A header of a sub-folder of one's own room, and the system's own folders.
     [ -e "$(dirname "$file")/$include" ] && return 0
-    [[ $include == sys/* || $include == SDL2/* || $include == freetype/* || $include == fontconfig/* ]]
+    [[ $include =~ ^(sys|SDL2|X11|freetype|fontconfig)/ ]]
 }
 
 while read -r file; do

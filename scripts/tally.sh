@@ -29,7 +29,10 @@ tally() { # name command...
     [ $code = 0 ] || [ "$f" -gt 0 ] || f=1
     passed=$((passed + p)) failed=$((failed + f)) skipped=$((skipped + s))
     printf '%-34s %6d passed %4d failed %4d skipped  %4d s\n' "$name" "$p" "$f" "$s" $((SECONDS - started))
-    [ "$f" = 0 ] || { failures+=("$name"); tail -n 60 "$log"; }
+    [ "$f" = 0 ] && return
+    failures+=("$name")
+    { grep -E -A 6 'Failure|FAILED|ERROR|rror:|not ok' "$log" || tail -n 40 "$log"; } | head -n 60
+    echo "All of it stands in $log."
 }
 
 # Every program of a build tree's tests.txt, started by the words that follow, if any.
