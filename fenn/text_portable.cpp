@@ -26,9 +26,9 @@ struct SystemKey {
     }
 };
 
-// Handles that were asked for lately, by their number.
+// Handles that were asked for lately. None is ever given twice, so that they need not be looked up.
 struct Recent {
-    std::uint64_t serial;
+    HFONT handle;
     Font* font;
 };
 
@@ -73,11 +73,12 @@ Font& make_font(const LOGFONTW& description) {
 }
 
 Font& font_for(HFONT handle) {
-    const std::uint64_t serial = platform::font_serial(handle);
-    Recent& recent = fonts().recent[serial % 16];
-    if (recent.font && recent.serial == serial) return *recent.font;
-    Font& font = make_font(describe_font(handle));
-    return *(fonts().recent[serial % 16] = {serial, &font}).font;
+    constexpr unsigned kind_bits = 4; // the same in all of them
+    Recent& recent = fonts().recent[(reinterpret_cast<std::uintptr_t>(handle) >> kind_bits) % 16];
+    if (recent.font && recent.handle == handle) return *recent.font;
+    Font& font = make_font(describe_font(handle)); // may forget what is recent
+    recent = {handle, &font};
+    return font;
 }
 
 } // namespace

@@ -28,6 +28,7 @@ struct Caches {
     RunMap young, old;
     std::size_t young_bytes = 0, old_bytes = 0;
     Run long_run;
+    Run* recent[2] = {}; // among the young, the last one first: a label asks for the same two again and again
 };
 
 Caches& caches() {
@@ -52,6 +53,7 @@ void make_room_for_runs(Caches& all) {
     if (all.young_bytes < RUN_LIMIT) return;
     all.old = std::move(all.young);
     all.young = RunMap();
+    all.recent[0] = all.recent[1] = nullptr;
     all.old_bytes = std::exchange(all.young_bytes, 0);
 }
 
@@ -80,15 +82,31 @@ Key key_of(const Font& font, const wchar_t* text) {
     return {hash, static_cast<std::size_t>(at - text)};
 }
 
+Run* find_recent(Caches& all, const Font& font, const wchar_t* text) {
+    for (Run*& run : all.recent) {
+        if (!run || run->font != font.id || std::wcscmp(run->text.c_str(), text) != 0) continue;
+        std::swap(run, all.recent[0]);
+        return all.recent[0];
+    }
+    return nullptr;
+}
+
+Run& remember(Caches& all, Run& run) {
+    all.recent[1] = all.recent[0];
+    return *(all.recent[0] = &run);
+}
+
 Run& find_run(Font& font, const wchar_t* text) {
     Caches& all = caches();
+    if (Run* const run = find_recent(all, font, text)) return *run;
     const Key key = key_of(font, text);
     if (key.length > LONG_TEXT) {
         if (!is_of(all.long_run, font, text, key.length)) lay_out(font, text, key.length, all.long_run);
         return all.long_run;
     }
     const auto young = all.young.find(key.hash);
-    if (young != all.young.end() && is_of(young->second, font, text, key.length)) return young->second;
+    if (young != all.young.end() && is_of(young->second, font, text, key.length))
+        return remember(all, young->second);
     make_room_for_runs(all);
     auto node = all.old.extract(key.hash);
     Run fresh;
@@ -102,7 +120,7 @@ Run& find_run(Font& font, const wchar_t* text) {
     if (run.font) all.young_bytes -= size_of(run);
     run = std::move(fresh);
     all.young_bytes += size_of(run);
-    return run;
+    return remember(all, run);
 }
 
 // Both let a part of the ground through; together they let through what neither covers.

@@ -128,7 +128,7 @@ HFONT Zeb_Create_Font(HWND wnd, const char* name, const char* weight, const char
     }
     if (!name && !weight && !slant && !size) return trace.out("default", HFONT{});
 
-    LOGFONTW description = {};
+    LOGFONTW description; // left as it is for a font that is there already: this is asked four times a text
     HFONT font = nullptr;
     int number;
     {
