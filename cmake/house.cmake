@@ -6,6 +6,12 @@ if(BRASK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+# Controls make many small calls across files: inlining them takes a quarter off a bevel. The objects of the archives
+# stay usable for other linkers.
+if(NOT WIN32 AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_compile_options(-flto=auto -ffat-lto-objects -fno-semantic-interposition)
+  add_link_options(-flto=auto -Wl,-Bsymbolic-functions)
+endif()
 if(WIN32)
   add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
   add_link_options(-static)
