@@ -4,13 +4,15 @@
 
 #include <atomic>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 
 namespace platform {
 
 static std::atomic<const SdlLibrary*> opened{nullptr};
 
 static const char* load(SdlLibrary& library) {
-    void* module = dlopen("libSDL2-2.0.so.0", RTLD_NOW | RTLD_LOCAL);
+    void* module = dlopen("libSDL2-2.0.so.0", RTLD_LAZY | RTLD_LOCAL);
     if (!module) return dlerror();
 #define PLATFORM_SDL_LOAD(name)                                                                              \
     library.name = reinterpret_cast<decltype(library.name)>(dlsym(module, #name));                           \
@@ -37,7 +39,13 @@ static const char* start(SdlLibrary& library) {
     if (const char* trouble = load(library)) return trouble;
     for (const Hint& hint : kHints)
         library.SDL_SetHint(hint.name, hint.value);
-    return library.SDL_InitSubSystem(SDL_INIT_VIDEO) == 0 ? nullptr : library.SDL_GetError();
+    if (library.SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return library.SDL_GetError();
+    // Its last resort when there is no display: a second buffer that nobody sees. Somebody may ask for it,
+    // though.
+    const bool unseen = std::strcmp(library.SDL_GetCurrentVideoDriver(), "offscreen") == 0;
+    if (!unseen || std::getenv("SDL_VIDEODRIVER")) return nullptr;
+    library.SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    return "no display";
 }
 
 const SdlLibrary* sdl_open() {

@@ -12,6 +12,7 @@ namespace platform {
     X(SDL_CreateSystemCursor)                                                                                \
     X(SDL_CreateWindow)                                                                                      \
     X(SDL_DestroyWindow)                                                                                     \
+    X(SDL_GetCurrentVideoDriver)                                                                             \
     X(SDL_GetError)                                                                                          \
     X(SDL_GetTicks)                                                                                          \
     X(SDL_GetWindowFromID)                                                                                   \
@@ -24,6 +25,7 @@ namespace platform {
     X(SDL_MinimizeWindow)                                                                                    \
     X(SDL_PollEvent)                                                                                         \
     X(SDL_PushEvent)                                                                                         \
+    X(SDL_QuitSubSystem)                                                                                     \
     X(SDL_RaiseWindow)                                                                                       \
     X(SDL_RestoreWindow)                                                                                     \
     X(SDL_SetCursor)                                                                                         \
