@@ -2,29 +2,20 @@
 
 #include <algorithm>
 
+#include "controls/range.h"
 #include "foundation/layout.h"
 
 namespace brask {
 
-Slider_Axis slider_axis(const Sliders& slider) {
-    if (slider.Flag & OUTIL_VERTICAL) return {true, slider.Pos_Y, slider.Dim_Y, slider.Dim_X};
-    return {false, slider.Pos_X, slider.Dim_X, slider.Dim_Y};
-}
-
 int slider_arrow(const Sliders& slider) {
     if (slider.Arrow_Len) return slider.Arrow_Len;
-    const Slider_Axis axis = slider_axis(slider);
+    const Axis axis = axis_of(slider);
     return std::min<int>(axis.thick, axis.length / 2 - Px(CURSEUR));
 }
 
 int slider_play(const Sliders& slider) {
-    const Slider_Axis axis = slider_axis(slider);
+    const Axis axis = axis_of(slider);
     return axis.length - 2 * axis.thick - 2 * Px(slider.Larg) - 2 * Px(bevel_width(slider));
-}
-
-int slider_offset(const Sliders& slider, POINT pointer) {
-    const Slider_Axis axis = slider_axis(slider);
-    return Px(axis.vertical ? pointer.y : pointer.x) - axis.start;
 }
 
 Area slider_thumb(const Sliders& slider, int offset) {

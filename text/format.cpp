@@ -10,10 +10,22 @@
 namespace text {
 namespace {
 
-// The arguments, passed on by reference: a va_list itself may be an array.
+// Where conversions take what they print from: the arguments of a call, passed on by reference since a
+// va_list itself may be an array; one number; or nothing.
 struct Args {
     std::va_list list;
     bool lost; // behind an unknown conversion nobody knows what the next argument is: none is read any more
+
+    int amount() { return lost ? 0 : va_arg(list, int); }
+};
+struct One_Number {
+    double value;
+    bool printed;
+
+    int amount() { return 0; }
+};
+struct Nothing {
+    int amount() { return 0; }
 };
 
 // The bounded output. Once a character did not fit, nothing more is written, only counted.
@@ -81,10 +93,9 @@ int take_number(const Unit*& at) {
 }
 
 // A width or precision; * takes it from the arguments.
-template <typename Unit>
-int take_amount(const Unit*& at, Args* args) {
-    if (!take(at, '*')) return take_number(at);
-    return args && !args->lost ? va_arg(args->list, int) : 0;
+template <typename Unit, typename Source>
+int take_amount(const Unit*& at, Source& source) {
+    return take(at, '*') ? source.amount() : take_number(at);
 }
 
 template <typename Unit>
@@ -103,8 +114,8 @@ Spec::Length take_length(const Unit*& at) {
 }
 
 // Reads what follows a percent sign. Without arguments a * counts as 0.
-template <typename Unit>
-Spec parse(const Unit*& at, Args* args) {
+template <typename Unit, typename Source>
+Spec parse(const Unit*& at, Source& source) {
     Spec spec{};
     for (bool more = true; more;) {
         if (take(at, '-'))
@@ -120,14 +131,14 @@ Spec parse(const Unit*& at, Args* args) {
         else
             more = false;
     }
-    spec.width = take_amount(at, args);
+    spec.width = take_amount(at, source);
     if (spec.width < 0) {
         spec.left = true;
         spec.width = spec.width == INT_MIN ? INT_MAX : -spec.width;
     }
     spec.precision = -1;
     if (take(at, '.')) {
-        spec.precision = take_amount(at, args);
+        spec.precision = take_amount(at, source);
         if (spec.precision < 0) spec.precision = -1;
     }
     spec.length = take_length(at);
@@ -272,12 +283,29 @@ void write_integer(Writer<Unit>& writer, Spec spec, Args& args) {
 }
 
 template <typename Unit>
-void write_float(Writer<Unit>& writer, const Spec& spec, Args& args) {
+void write_float(Writer<Unit>& writer, const Spec& spec, double value) {
     Number number;
-    print_float(number, spec,
-                spec.length == Spec::big ? static_cast<double>(va_arg(args.list, long double))
-                                         : va_arg(args.list, double));
+    print_float(number, spec, value);
     write_number(writer, spec, number);
+}
+
+bool is_float(char conversion) {
+    switch (conversion) {
+    case 'e':
+    case 'E':
+    case 'f':
+    case 'F':
+    case 'g':
+    case 'G':
+    case 'a':
+    case 'A': return true;
+    default: return false;
+    }
+}
+
+double take_float(Args& args, Spec::Length length) {
+    return length == Spec::big ? static_cast<double>(va_arg(args.list, long double))
+                               : va_arg(args.list, double);
 }
 
 // --- The whole ---
@@ -285,6 +313,7 @@ void write_float(Writer<Unit>& writer, const Spec& spec, Args& args) {
 template <typename Unit>
 void convert(Writer<Unit>& writer, const Spec& spec, Args& args, bool wide_format) {
     if (args.lost) return;
+    if (is_float(spec.conversion)) return write_float(writer, spec, take_float(args, spec.length));
     const bool wide = spec.length == Spec::l || (wide_format && spec.length != Spec::h);
     switch (spec.conversion) {
     case 's':
@@ -301,18 +330,20 @@ void convert(Writer<Unit>& writer, const Spec& spec, Args& args, bool wide_forma
     case 'x':
     case 'X':
     case 'p': write_integer(writer, spec, args); break;
-    case 'e':
-    case 'E':
-    case 'f':
-    case 'F':
-    case 'g':
-    case 'G':
-    case 'a':
-    case 'A': write_float(writer, spec, args); break;
     case 'n': va_arg(args.list, void*); break;
     default: args.lost = true;
     }
 }
+
+template <typename Unit>
+void convert(Writer<Unit>& writer, const Spec& spec, One_Number& number, bool) {
+    if (number.printed || !is_float(spec.conversion)) return;
+    number.printed = true;
+    write_float(writer, spec, number.value);
+}
+
+template <typename Unit>
+void convert(Writer<Unit>&, const Spec&, Nothing&, bool) {}
 
 // A literal stretch of the format, up to the next percent sign or the end.
 template <typename Unit, typename From>
@@ -345,9 +376,8 @@ int finish(Writer<Unit>& writer, const Unit* start, std::size_t size) {
     return writer.total > INT_MAX ? INT_MAX : static_cast<int>(writer.total);
 }
 
-// `args` null: conversions print nothing.
-template <typename Unit, typename From>
-int run(Unit* out, std::size_t size, const From* format, Args* args) {
+template <typename Unit, typename From, typename Source>
+int run(Unit* out, std::size_t size, const From* format, Source& source) {
     Writer<Unit> writer{out, size > 0 ? size - 1 : 0, 0};
     for (const From* at = format; at && *at != 0;) {
         write_literal(writer, at);
@@ -356,8 +386,8 @@ int run(Unit* out, std::size_t size, const From* format, Args* args) {
             writer.unit(static_cast<Unit>('%'));
             continue;
         }
-        const Spec spec = parse(at, args);
-        if (args) convert(writer, spec, *args, std::is_same_v<From, wchar_t>);
+        const Spec spec = parse(at, source);
+        convert(writer, spec, source, std::is_same_v<From, wchar_t>);
     }
     return finish(writer, out, size);
 }
@@ -367,7 +397,7 @@ int run_with(Unit* out, std::size_t size, const From* format, std::va_list list)
     Args args;
     va_copy(args.list, list);
     args.lost = false;
-    const int length = run(out, size, format, &args);
+    const int length = run(out, size, format, args);
     va_end(args.list);
     return length;
 }
@@ -387,7 +417,13 @@ int format(char* out, std::size_t size, const char* format, std::va_list args) {
 }
 
 int format_bare(wchar_t* out, std::size_t size, const wchar_t* format) {
-    return run<wchar_t>(out, size, format, nullptr);
+    Nothing nothing;
+    return run(out, size, format, nothing);
+}
+
+int format_number(wchar_t* out, std::size_t size, const wchar_t* format, double value) {
+    One_Number number{value, false};
+    return run(out, size, format, number);
 }
 
 } // namespace text

@@ -20,6 +20,10 @@ int format(char* out, std::size_t size, const char* format, std::va_list args); 
 // The format on its own, without arguments: %% prints one percent sign, any other conversion nothing.
 int format_bare(wchar_t* out, std::size_t size, const wchar_t* format);
 
+// The format with one number: the first floating conversion prints it, any other conversion nothing, and a *
+// counts as 0. So a format from outside may hold anything.
+int format_number(wchar_t* out, std::size_t size, const wchar_t* format, double value);
+
 } // namespace text
 
 #endif
