@@ -1,0 +1,195 @@
+#include "raster/images.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+#include "sheet.h"
+
+using raster::Point;
+
+namespace {
+
+struct Block {
+    Point to, from;
+    int width, height;
+};
+
+std::string told(const Block& b, const raster::Rect& clip) {
+    std::string text;
+    for (const int value : {b.to.x, b.to.y, b.from.x, b.from.y, b.width, b.height, clip.left, clip.top,
+                            clip.right, clip.bottom})
+        text += " " + std::to_string(value);
+    return text;
+}
+
+bool holds(const raster::Rect& rect, std::int64_t x, std::int64_t y) {
+    return x >= rect.left && x < rect.right && y >= rect.top && y < rect.bottom;
+}
+
+// Whether the block paints that pixel, and from where.
+bool paints(const Block& b, const raster::Rect& source, const raster::Rect& clip, int x, int y, Point& from) {
+    const std::int64_t across = std::int64_t{x} - b.to.x;
+    const std::int64_t down = std::int64_t{y} - b.to.y;
+    if (!holds(clip, x, y) || across < 0 || across >= b.width || down < 0 || down >= b.height) return false;
+    if (!holds(source, across + b.from.x, down + b.from.y)) return false;
+    from = {static_cast<int>(across + b.from.x), static_cast<int>(down + b.from.y)};
+    return true;
+}
+
+Block some(Dice& dice, int size) {
+    const Point extent = dice.point(size);
+    return {dice.point(size), dice.point(size), extent.x, extent.y};
+}
+
+// Each pixel tells where it stands.
+std::vector<std::uint32_t> numbered(int count) {
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        pixels[static_cast<std::size_t>(i)] = 0x1000 + static_cast<std::uint32_t>(i);
+    return pixels;
+}
+
+// over * cover + under * (255 - cover), through 255, to the nearest.
+std::uint32_t channel(std::uint32_t over, std::uint32_t under, std::uint32_t cover) {
+    return (2 * (over * cover + under * (255 - cover)) + 255) / 510;
+}
+
+std::uint32_t mixed(std::uint32_t over, std::uint32_t under, std::uint32_t cover) {
+    std::uint32_t word = 0;
+    for (int shift = 0; shift < 24; shift += 8)
+        word |= channel(over >> shift & 0xFF, under >> shift & 0xFF, cover) << shift;
+    return word;
+}
+
+} // namespace
+
+TEST(Copy, CutToEverything) {
+    constexpr int size = 16;
+    const std::vector<std::uint32_t> pixels = numbered(13 * 11);
+    const raster::Image source{pixels.data(), 12, 11, 13};
+    Dice dice(20);
+    Sheet sheet(size, size);
+    for (int i = 0; i < 20000; ++i) {
+        const Block b = some(dice, size);
+        const raster::Rect clip = dice.one_in(2) ? sheet.all() : dice.rect(size);
+        sheet.wipe();
+        raster::copy(sheet.canvas(), clip, b.to, source, b.from, b.width, b.height);
+        ASSERT_TRUE(sheet.is_margin_clean()) << told(b, clip);
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                Point from{};
+                const bool painted = paints(b, {0, 0, 12, 11}, clip, x, y, from);
+                ASSERT_EQ(sheet.pixel(x, y),
+                          painted ? pixels[static_cast<std::size_t>(from.y * 13 + from.x)] : Sheet::paper)
+                    << told(b, clip) << " at " << x << "," << y;
+            }
+    }
+}
+
+TEST(Copy, OverlappingBlocksOfOneCanvas) {
+    constexpr int size = 12;
+    const std::vector<std::uint32_t> before = numbered(size * size);
+    for (int dy = -4; dy <= 4; ++dy)
+        for (int dx = -4; dx <= 4; ++dx) {
+            std::vector<std::uint32_t> pixels = before;
+            const raster::Canvas canvas{pixels.data(), size, size, size};
+            const Block b{{4 + dx, 4 + dy}, {4, 4}, 5, 6};
+            raster::copy(canvas, {0, 0, size, size}, b.to, canvas, b.from, b.width, b.height);
+            for (int y = 0; y < size; ++y)
+                for (int x = 0; x < size; ++x) {
+                    Point from{x, y};
+                    paints(b, {0, 0, size, size}, {0, 0, size, size}, x, y, from);
+                    ASSERT_EQ(pixels[static_cast<std::size_t>(y * size + x)],
+                              before[static_cast<std::size_t>(from.y * size + from.x)])
+                        << dx << "," << dy << " at " << x << "," << y;
+                }
+        }
+}
+
+TEST(Blend, EveryMix) {
+    std::vector<std::uint32_t> source(256 * 256);
+    for (std::uint32_t i = 0; i < 256 * 256; ++i) {
+        const std::uint32_t over = i & 0xFF;
+        source[i] = (i >> 8) << 24 | over << 16 | (255 - over) << 8 | (over ^ 0x55);
+    }
+    std::vector<std::uint32_t> result(256 * 256, 0xFFFFFFFF);
+    const raster::Canvas canvas{result.data(), 256, 256, 256};
+    for (std::uint32_t under = 0; under < 256; ++under) {
+        const std::uint32_t background = under << 16 | (under ^ 0xAA) << 8 | (255 - under);
+        raster::blend(canvas, {0, 0, 256, 256}, {0, 0}, {source.data(), 256, 256, 256}, {0, 0}, 256, 256,
+                      background);
+        for (std::uint32_t i = 0; i < 256 * 256; ++i)
+            ASSERT_EQ(result[i], mixed(source[i], background, i >> 8))
+                << std::hex << source[i] << " on " << background;
+    }
+}
+
+TEST(Mask, EveryMix) {
+    std::vector<std::uint8_t> coverage(256 * 256);
+    std::vector<std::uint32_t> ground(256 * 256);
+    for (std::uint32_t i = 0; i < 256 * 256; ++i) {
+        const std::uint32_t under = i & 0xFF;
+        coverage[i] = static_cast<std::uint8_t>(i >> 8);
+        ground[i] = under << 16 | (255 - under) << 8 | (under ^ 0x55);
+    }
+    for (std::uint32_t over = 0; over < 256; ++over) {
+        const std::uint32_t color = over << 16 | (over ^ 0xAA) << 8 | (255 - over);
+        std::vector<std::uint32_t> result = ground;
+        raster::mask({result.data(), 256, 256, 256}, {0, 0, 256, 256}, {0, 0}, coverage.data(), 256, 256, 256,
+                     color);
+        for (std::uint32_t i = 0; i < 256 * 256; ++i)
+            ASSERT_EQ(result[i] & 0xFFFFFF, mixed(color, ground[i], coverage[i]))
+                << std::hex << color << " on " << ground[i];
+    }
+}
+
+TEST(MaskAndBlend, CutToEverything) {
+    constexpr int size = 24;
+    constexpr int pitch = 23;
+    Dice dice(21);
+    std::vector<std::uint8_t> coverage(pitch * 19);
+    for (std::uint8_t& cover : coverage) // whole groups of none and of all, and what lies between
+        cover = static_cast<std::uint8_t>(dice.one_in(3) ? dice.between(0, 255) : dice.one_in(2) ? 0 : 255);
+    std::fill(coverage.begin() + 40, coverage.begin() + 80, std::uint8_t{0});
+    std::vector<std::uint32_t> icon(coverage.size());
+    for (std::size_t i = 0; i < icon.size(); ++i)
+        icon[i] = static_cast<std::uint32_t>(coverage[i]) << 24 | 0x808080;
+    Sheet masked(size, size);
+    Sheet blended(size, size);
+    for (int i = 0; i < 10000; ++i) {
+        Block b = some(dice, size);
+        const raster::Rect clip = dice.one_in(2) ? masked.all() : dice.rect(size);
+        masked.wipe();
+        blended.wipe();
+        raster::blend(blended.canvas(), clip, b.to, {icon.data(), 22, 19, pitch}, b.from, b.width, b.height,
+                      0x10FF20);
+        // A mask has no place to begin at; its size must be its own.
+        const Block whole{b.to, {0, 0}, std::min(b.width, 22), std::min(b.height, 19)};
+        raster::mask(masked.canvas(), clip, b.to, coverage.data(), whole.width, whole.height, pitch,
+                     Sheet::ink);
+        ASSERT_TRUE(masked.is_margin_clean() && blended.is_margin_clean()) << told(b, clip);
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x) {
+                Point from{};
+                std::uint32_t wanted = Sheet::paper;
+                if (paints(b, {0, 0, 22, 19}, clip, x, y, from))
+                    wanted = mixed(0x808080, 0x10FF20,
+                                   coverage[static_cast<std::size_t>(from.y * pitch + from.x)]);
+                ASSERT_EQ(blended.pixel(x, y), wanted) << told(b, clip) << " at " << x << "," << y;
+                wanted = Sheet::paper;
+                if (paints(whole, {0, 0, 22, 19}, clip, x, y, from))
+                    wanted = mixed(Sheet::ink, Sheet::paper,
+                                   coverage[static_cast<std::size_t>(from.y * pitch + from.x)]);
+                ASSERT_EQ(masked.pixel(x, y), wanted) << told(b, clip) << " at " << x << "," << y;
+            }
+    }
+}
+
+TEST(Images, NullSources) {
+    Sheet sheet(4, 4);
+    raster::copy(sheet.canvas(), sheet.all(), {0, 0}, {nullptr, 4, 4, 4}, {0, 0}, 4, 4);
+    raster::blend(sheet.canvas(), sheet.all(), {0, 0}, {nullptr, 4, 4, 4}, {0, 0}, 4, 4, 0);
+    raster::mask(sheet.canvas(), sheet.all(), {0, 0}, nullptr, 4, 4, 4, 0);
+    EXPECT_EQ(sheet.picture().find('#'), std::string::npos);
+}
