@@ -18,7 +18,8 @@ const wchar_t* const preferred[] = {
     L"Segoe UI",  L"Segoe UI Symbol", L"Segoe UI Emoji", L"Nirmala UI",       L"Microsoft YaHei",
     L"Yu Gothic", L"Malgun Gothic",   L"DejaVu Sans",    L"Noto Sans CJK JP", L"Noto Sans Arabic"};
 
-// A small picture for trials.
+// A small picture for measuring and trials. It is of the back buffers' kind: letters have other widths on
+// another.
 class Trial {
   public:
     static constexpr int SIZE = 96;
@@ -36,6 +37,8 @@ class Trial {
         pixels = static_cast<const DWORD*>(bits);
     }
 
+    HDC context() const { return dc; }
+
     std::vector<DWORD> picture(HFONT font, const wchar_t* units, int length) const {
         SelectObject(dc, font);
         PatBlt(dc, 0, 0, SIZE, SIZE, WHITENESS);
@@ -49,13 +52,18 @@ class Trial {
     const DWORD* pixels = nullptr;
 };
 
+const Trial& trial() {
+    // Never destroyed: text may still be written while a host's own statics go.
+    static const Trial& only = *new Trial;
+    return only;
+}
+
 // GDI looks into other fonts for what this one lacks, and does not tell with what success: a trial does, as
 // what no font has looks like any other character of that kind.
 bool shows_something(HFONT font, const wchar_t* units, int length) {
-    static const Trial& trial = *new Trial; // never destroyed, like all that text needs
-    const std::vector<DWORD> seen = trial.picture(font, units, length);
-    return seen != trial.picture(font, L" ", 1) && seen != trial.picture(font, L"\u0378", 1) &&
-           seen != trial.picture(font, L"\U0010FFFD", 2);
+    const std::vector<DWORD> seen = trial().picture(font, units, length);
+    return seen != trial().picture(font, L" ", 1) && seen != trial().picture(font, L"\u0378", 1) &&
+           seen != trial().picture(font, L"\U0010FFFD", 2);
 }
 
 // The characters of an installed family.
@@ -88,7 +96,7 @@ std::vector<WCRANGE> ranges_of(const std::wstring& name) {
 
 int CALLBACK add_name(const LOGFONTW* description, const TEXTMETRICW*, DWORD type, LPARAM names) {
     // Names with an "@" are the same families for vertical text.
-    if (type & TRUETYPE_FONTTYPE && description->lfFaceName[0] != L'@')
+    if (!(type & RASTER_FONTTYPE) && description->lfFaceName[0] != L'@')
         reinterpret_cast<std::vector<std::wstring>*>(names)->push_back(description->lfFaceName);
     return 1;
 }
@@ -123,17 +131,14 @@ struct DescriptionOrder {
 
 void lay_out_boxes(Font& font, const wchar_t* text, Run& run) {
     while (const char32_t code = text::next(text))
-        append(font, HEX_BOX | code, run);
+        if (!is_invisible(code)) append(font, HEX_BOX | code, run);
 }
 
 constexpr FontKind boxes_kind{lay_out_boxes, nullptr};
 
 } // namespace
 
-HDC measuring_context() {
-    static const HDC dc = CreateCompatibleDC(nullptr);
-    return dc;
-}
+HDC measuring_context() { return trial().context(); }
 
 bool font_has(HFONT font, const wchar_t* units, int length) {
     WORD index = 0xFFFF;
@@ -186,7 +191,8 @@ HFONT GdiFont::find_other(char32_t code, const wchar_t* units, int length) {
 
 HFONT GdiFont::font_for(char32_t code, const wchar_t* units, int length) {
     if (is_control(code)) return nullptr;
-    if (is_invisible(code) || font_has(own, units, length)) return own;
+    if (is_invisible(code)) return length == 1 ? own : nullptr;
+    if (font_has(own, units, length)) return own;
     const auto known = others.find(code);
     if (known != others.end()) return known->second;
     if (others.size() >= MANY_CODES) others.clear();

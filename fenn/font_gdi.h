@@ -44,7 +44,7 @@ class GdiFont {
 
 GdiFont& known_font(HFONT font);
 
-// A context for measuring, with nothing of anybody's on it.
+// A context for measuring; the fonts select themselves into it.
 HDC measuring_context();
 // The font's own table of characters has it.
 bool font_has(HFONT font, const wchar_t* units, int length);

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -52,17 +53,23 @@ void take_letter_along(std::vector<Part>& parts, HFONT font) {
     add(parts, {letter, 1, font});
 }
 
+// Another font keeps the neutral signs that follow, so that a sentence stays together.
+bool is_carried(const std::vector<Part>& parts, const GdiFont& font, char32_t code, const wchar_t* units,
+                int length) {
+    if (parts.empty() || parts.back().font == font.own) return false;
+    if (is_invisible(code)) return true;
+    return parts.back().font && is_neutral(code) && font_has(parts.back().font, units, length);
+}
+
 std::vector<Part> parts_of(GdiFont& font, const wchar_t* text) {
     std::vector<Part> parts;
     while (*text) {
         const wchar_t* const from = text;
         const char32_t code = text::next(text);
         const int length = static_cast<int>(text - from);
-        const HFONT last = parts.empty() ? nullptr : parts.back().font;
-        const bool is_carried = last && last != font.own &&
-                                (is_invisible(code) || (is_neutral(code) && font_has(last, from, length)));
-        const HFONT shown_by = is_carried ? last : font.font_for(code, from, length);
-        if (last && shown_by && is_combining(code)) take_letter_along(parts, shown_by);
+        const bool carried = is_carried(parts, font, code, from, length);
+        const HFONT shown_by = carried ? parts.back().font : font.font_for(code, from, length);
+        if (!parts.empty() && shown_by && is_combining(code)) take_letter_along(parts, shown_by);
         add(parts, {from, length, shown_by});
     }
     return parts;
@@ -108,6 +115,21 @@ bool is_right_to_left(const std::wstring& text) {
     return false;
 }
 
+// How far the pen moves at each character of a simple text, told when it is written: smoothed letters may
+// want to move it otherwise than they were measured. Shaped text is left to GDI.
+std::vector<int> steps_of(const Part& part) {
+    const bool is_shaped =
+        std::any_of(part.text, part.text + part.length, [](wchar_t unit) { return !is_simple(unit); });
+    std::vector<int> steps(is_shaped ? 0 : static_cast<std::size_t>(part.length));
+    SIZE size;
+    SelectObject(measuring_context(), part.font);
+    if (steps.empty() ||
+        !GetTextExtentExPointW(measuring_context(), part.text, part.length, 0, nullptr, steps.data(), &size))
+        return {};
+    std::adjacent_difference(steps.begin(), steps.end(), steps.begin());
+    return steps;
+}
+
 // The context as text wants it, Y downward; put back at the end.
 class TextContext {
   public:
@@ -124,9 +146,11 @@ class TextContext {
     TextContext(const TextContext&) = delete;
     TextContext& operator=(const TextContext&) = delete;
 
-    void write(HFONT font, int x, int baseline, const wchar_t* text, int length) const {
-        SelectObject(dc, font);
-        TextOutW(dc, x, baseline, text, length);
+    void write(int x, int baseline, const Part& part) const {
+        SelectObject(dc, part.font);
+        const std::vector<int> steps = steps_of(part);
+        ExtTextOutW(dc, x, baseline, 0, nullptr, part.text, static_cast<UINT>(part.length),
+                    steps.empty() ? nullptr : steps.data());
     }
 
   private:
@@ -139,7 +163,7 @@ void write_parts(GdiFont& font, const TextContext& context, int x, int y, int ba
                  std::vector<Part> parts, std::uint32_t color) {
     for (const Part& part : parts) {
         if (part.font)
-            context.write(part.font, x, baseline, part.text, part.length);
+            context.write(x, baseline, part);
         else
             run_write(font.boxes, x, y, std::wstring(part.text, part.length).c_str(), pixel_of(color));
         x += part_width(font, part);
@@ -168,7 +192,7 @@ int write(HFONT handle, int x, int y, const wchar_t* text, std::uint32_t color) 
     const int left = limit(x), bottom = limit(y);
     const int baseline = flip(target->canvas, bottom) - (font.boxes.height - 1) + font.boxes.ascent;
     if (measured.is_plain) {
-        context.write(font.own, left, baseline, clean.c_str(), static_cast<int>(clean.size()));
+        context.write(left, baseline, {clean.c_str(), static_cast<int>(clean.size()), font.own});
     } else {
         std::vector<Part> parts = parts_of(font, clean.c_str());
         if (right_to_left) std::reverse(parts.begin(), parts.end());
