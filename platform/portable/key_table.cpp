@@ -10,9 +10,9 @@
 
 namespace platform {
 
-// In the order of the scan code of the desktop: letters, digits, the main block, functions, navigation, pad,
-// further functions, media, modifiers, the desktop's own codes beyond the USB page.
+// In the order of the first column.
 static const KeyRow kRows[] = {
+    // Letters, in alphabetical order.
     {4, 'A', 0x1E, false},
     {5, 'B', 0x30, false},
     {6, 'C', 0x2E, false},
@@ -39,6 +39,7 @@ static const KeyRow kRows[] = {
     {27, 'X', 0x2D, false},
     {28, 'Y', 0x15, false},
     {29, 'Z', 0x2C, false},
+    // Digits, 1 to 9 and 0.
     {30, '1', 0x02, false},
     {31, '2', 0x03, false},
     {32, '3', 0x04, false},
@@ -49,6 +50,7 @@ static const KeyRow kRows[] = {
     {37, '8', 0x09, false},
     {38, '9', 0x0A, false},
     {39, '0', 0x0B, false},
+    // The rest of the main block.
     {40, VK_RETURN, 0x1C, false},
     {41, VK_ESCAPE, 0x01, false},
     {42, VK_BACK, 0x0E, false},
@@ -67,6 +69,7 @@ static const KeyRow kRows[] = {
     {55, VK_OEM_PERIOD, 0x34, false},
     {56, VK_OEM_2, 0x35, false},
     {57, VK_CAPITAL, 0x3A, false},
+    // Function keys, and those beside them.
     {58, VK_F1, 0x3B, false},
     {59, VK_F2, 0x3C, false},
     {60, VK_F3, 0x3D, false},
@@ -82,6 +85,7 @@ static const KeyRow kRows[] = {
     {70, VK_SNAPSHOT, 0x37, true},
     {71, VK_SCROLL, 0x46, false},
     {72, VK_PAUSE, 0x45, false},
+    // Navigation.
     {73, VK_INSERT, 0x52, true},
     {74, VK_HOME, 0x47, true},
     {75, VK_PRIOR, 0x49, true},
@@ -92,6 +96,7 @@ static const KeyRow kRows[] = {
     {80, VK_LEFT, 0x4B, true},
     {81, VK_DOWN, 0x50, true},
     {82, VK_UP, 0x48, true},
+    // The pad.
     {83, VK_NUMLOCK, 0x45, true},
     {84, VK_DIVIDE, 0x35, true},
     {85, VK_MULTIPLY, 0x37, false},
@@ -109,6 +114,7 @@ static const KeyRow kRows[] = {
     {97, VK_PRIOR, 0x49, false, VK_NUMPAD9},
     {98, VK_INSERT, 0x52, false, VK_NUMPAD0},
     {99, VK_DELETE, 0x53, false, VK_DECIMAL},
+    // Keys of larger keyboards.
     {100, VK_OEM_102, 0x56, false},
     {101, VK_APPS, 0x5D, true},
     {103, VK_OEM_NEC_EQUAL, 0x59, false},
@@ -128,11 +134,13 @@ static const KeyRow kRows[] = {
     {127, VK_VOLUME_MUTE, 0x20, true},
     {128, VK_VOLUME_UP, 0x30, true},
     {129, VK_VOLUME_DOWN, 0x2E, true},
-    {133, VK_ABNT_C2, 0x7E, false},
-    {135, VK_ABNT_C1, 0x73, false},
+    // The two further keys of Brazilian keyboards have no names.
+    {133, 0xC2, 0x7E, false},
+    {135, 0xC1, 0x73, false},
     {136, VK_KANA, 0x70, false},
     {138, VK_CONVERT, 0x79, false},
     {139, VK_NONCONVERT, 0x7B, false},
+    // Modifiers.
     {224, VK_LCONTROL, 0x1D, false},
     {225, VK_LSHIFT, 0x2A, false},
     {226, VK_LMENU, 0x38, false},
@@ -141,6 +149,7 @@ static const KeyRow kRows[] = {
     {229, VK_RSHIFT, 0x36, false},
     {230, VK_RMENU, 0x38, true},
     {231, VK_RWIN, 0x5C, true},
+    // Keys of media and browsers, under numbers of the desktop library.
     {258, VK_MEDIA_NEXT_TRACK, 0x19, true},
     {259, VK_MEDIA_PREV_TRACK, 0x10, true},
     {260, VK_MEDIA_STOP, 0x24, true},

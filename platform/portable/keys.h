@@ -119,8 +119,6 @@ enum : int {
     VK_OEM_PERIOD = 0xBE,
     VK_OEM_2 = 0xBF,
     VK_OEM_3 = 0xC0,
-    VK_ABNT_C1 = 0xC1,
-    VK_ABNT_C2 = 0xC2,
     VK_OEM_4 = 0xDB,
     VK_OEM_5 = 0xDC,
     VK_OEM_6 = 0xDD,

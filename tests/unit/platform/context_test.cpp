@@ -188,6 +188,17 @@ TEST_F(Context, WrongContextsAreHarmless) {
     }
 }
 
+TEST_F(Context, TransformsNeedTheAdvancedMode) {
+    const HDC dc = GetDC(host.wnd);
+    const XFORM scale = {2, 0, 0, 3, 1, -1};
+    EXPECT_FALSE(SetWorldTransform(dc, &scale));
+    EXPECT_FALSE(ModifyWorldTransform(dc, &scale, MWT_LEFTMULTIPLY));
+    POINT point = {10, 10};
+    LPtoDP(dc, &point, 1);
+    EXPECT_TRUE(point.x == 10 && point.y == 10);
+    ReleaseDC(host.wnd, dc);
+}
+
 TEST_F(Context, ATransformWithoutInverseIsRefused) {
     const HDC dc = GetDC(host.wnd);
     SetGraphicsMode(dc, GM_ADVANCED);

@@ -43,9 +43,8 @@ TEST_F(Transform, OriginsShift) {
     EXPECT_POINT(old, 10, 20);
 }
 
-TEST_F(Transform, ScaleNeedsTheAdvancedMode) {
+TEST_F(Transform, ScalesInTheAdvancedMode) {
     const XFORM scale = {2, 0, 0, 3, 1, -1};
-    EXPECT_FALSE(ModifyWorldTransform(dc, &scale, MWT_LEFTMULTIPLY));
     EXPECT_EQ(SetGraphicsMode(dc, GM_ADVANCED), GM_COMPATIBLE);
     EXPECT_TRUE(ModifyWorldTransform(dc, &scale, MWT_LEFTMULTIPLY));
     EXPECT_POINT(device(10, 10), 21, 29);
