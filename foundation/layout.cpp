@@ -18,9 +18,10 @@ Anew surfaces_anew(const Tools& control, HWND wnd) {
     const bool reshaped = control.Dim_X != control.Old_Dim_X || control.Dim_Y != control.Old_Dim_Y ||
                           control.Border != control.Old_Border;
     const bool all = wnd || reshaped;
-    // A host's surface that was taken away counts as well: the face it hid is wanted now.
-    return {all || control.Graph_Normal != control.Old_Graph_Normal,
-            all || control.Graph_Select != control.Old_Graph_Select};
+    // A host's surface that was taken away counts as well, even when nothing came in its place: the face it
+    // hid is wanted now.
+    return {all || control.Graph_Normal != control.Old_Graph_Normal || control.*Host_Surfaces::NORMAL.gone,
+            all || control.Graph_Select != control.Old_Graph_Select || control.*Host_Surfaces::SELECT.gone};
 }
 
 bool recolored(const Tools& control) { return control.Color_Get() != control.Old_Color; }
