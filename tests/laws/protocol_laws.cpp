@@ -63,12 +63,6 @@ const wchar_t* const kNames[] = {L"",
                                  L"\x01\x02",
                                  L"\x645\x631\x62D\x628\x627"};
 
-// The host owns its surfaces, so it is he who replaces them when the size changes.
-void resize(Tools& control, int dim_x, int dim_y) {
-    control.Dim_X = dim_x, control.Dim_Y = dim_y;
-    if (control.Graph_Normal) control.Alloc_Graph_Normal(0x112233);
-    if (control.Graph_Select) control.Alloc_Graph_Select(0x445566);
-}
 // Freed surfaces are still named by the looks until an Init that comes as far as choosing them.
 template <typename Control>
 void change_surfaces(Control& control, Chance& chance) {
@@ -100,10 +94,10 @@ void change(Control& control, Chance& chance, Any any) {
         OUTIL_INVISIBLE, OUTIL_DISABLE, OUTIL_VERTICAL, OUTIL_EMPTY, GRAPH_OUTLINE,     OUTIL_FLAT,
         OUTIL_NO_FRAME,  TEXT_MIDDLE,   TEXT_TOP,       TEXT_BOTTOM, TEXT_LEFT,         TEXT_RIGHT,
         BOX_INSET,       TEXT_WHITE,    BOX_RAISED,     BUTTON_LAMP, BUTTON_LAMP_COLOR, CADRE_NO_LINE};
-    switch (chance.below(12)) {
+    switch (chance.below(14)) {
     case 0: control.Flag ^= kFlags[chance.below(std::size(kFlags))]; break;
     case 1: control.Flag = 0; break;
-    case 2: resize(control, any(), any()); break;
+    case 2: control.Dim_X = any(), control.Dim_Y = any(); break;
     case 3: control.Pos_X = any(), control.Pos_Y = any(); break;
     case 4:
         control.Clip_X = any(), control.Clip_Y = any(), control.Clip_Dim_X = any(),
@@ -115,7 +109,7 @@ void change(Control& control, Chance& chance, Any any) {
     case 8: control.Name_Set(L"%ls", kNames[chance.below(std::size(kNames))]); break;
     case 9: control.Font_Weight = chance.of<const char*>({nullptr, "bold"}), control.Font_Size = any(); break;
     case 10: change_value(control, chance); break;
-    default: change_surfaces(control, chance); break;
+    default: change_surfaces(control, chance); break; // more often: several blocks that several fields name
     }
 }
 

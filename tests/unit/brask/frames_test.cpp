@@ -199,6 +199,16 @@ TEST_F(Frames, ArrowObeysTheClip) {
     EXPECT_NE(lines.find("Zeb_reset_clip()\nZeb_release()\n"), std::string::npos);
 }
 
+// Rings without number come to an end: those that no window could show need not be painted.
+TEST_F(Frames, GreatestWidthsEnd) {
+    for (const int dir : {0, 1}) {
+        tools.Cadre(0, dir, INT_MAX, 10, 60, 20, 50);
+        EXPECT_EQ(recorder::exit_tag("Tools::Cadre"), "");
+        EXPECT_GT(recorder::log().size(), 2000u * 8); // any that could be seen are
+        recorder::clear();
+    }
+}
+
 TEST_F(Frames, ExtremeRectanglesAreHarmless) {
     const int values[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
     for (const int a : values)

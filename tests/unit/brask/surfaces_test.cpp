@@ -2,7 +2,8 @@
 #include <cstdlib>
 #include <memory>
 
-#include <brask/tools.h>
+#include <brask/boxs.h>
+#include <brask/buttons.h>
 
 #include "support/recorded.h"
 
@@ -64,6 +65,48 @@ TEST_F(Surfaces, AllocatedOneReplacesASharedBlockWithoutLeavingTheOtherDangling)
     if (tools.Graph_Normal) {
         EXPECT_LE(tools.Graph_Normal[50 * 30 - 1], 3u);
     }
+}
+
+// The library made the block and so knows its size: a control that has outgrown it is shown flat.
+TEST_F(Surfaces, AllocatedOneThatDoesNotFitIsNotShown) {
+    Boxs box;
+    box.Dim_X = 50, box.Dim_Y = 30;
+    box.Alloc_Graph_Normal(1);
+    box.Init(recorder::window());
+    EXPECT_NE(painted([&] { box.Draw(); }).find("draw_image"), std::string::npos);
+    for (const bool again : {false, true}) {
+        box.Dim_X = 60, box.Dim_Y = 300;
+        if (again) box.Init(nullptr);
+        EXPECT_EQ(painted([&] { box.Draw(); }).find("draw_image"), std::string::npos) << again;
+    }
+    EXPECT_EQ(box.Alloc_Graph_Normal(2), 1);
+    box.Init(nullptr);
+    EXPECT_NE(painted([&] { box.Draw(); }).find("draw_image"), std::string::npos);
+}
+
+// The looks follow from the old block to the new one, without an Init in between.
+TEST_F(Surfaces, AllocatingAnewLeavesNoLookDangling) {
+    Buttons button;
+    button.Dim_X = 50, button.Dim_Y = 30;
+    button.Alloc_Graph_Normal(1);
+    button.Alloc_Graph_Select(2);
+    button.Init(recorder::window());
+    for (const bool in : {false, true}) {
+        in ? recorder::pointer(5, 5) : recorder::pointer(-5, -5);
+        button.Alloc_Graph_Normal(3);
+        button.Alloc_Graph_Select(4);
+        button.Draw(); // the recorder reads every pixel that is shown
+        button.Cur_Value = !button.Cur_Value;
+        button.Adjust();
+        button.Deselect();
+    }
+    button.Dim_X = 0; // gives nothing to paint on, and takes the old block away
+    button.Alloc_Graph_Normal(5);
+    button.Alloc_Graph_Select(6);
+    button.Dim_X = 50;
+    button.Draw();
+    button.Init(nullptr);
+    button.Draw();
 }
 
 TEST_F(Surfaces, AllocationBelowOnePixelGivesOne) {
