@@ -55,6 +55,15 @@ build() { # preset
     printf '%-34s built %57d s\n' "$1" $((SECONDS - started))
 }
 
+# A display of our own; its name is in `display`.
+start_display() {
+    local pipe number
+    exec {pipe}< <(exec Xvfb -displayfd 1 -screen 0 1400x900x24 -nolisten tcp 2>/dev/null)
+    display_server=$!
+    read -r number <&"$pipe"
+    display=:$number
+}
+
 skip() {
     echo "SKIPPED, NOT PROVEN: $*"
     skipped=$((skipped + 1))
