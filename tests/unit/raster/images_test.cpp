@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 
 #include "sheet.h"
@@ -125,22 +126,32 @@ TEST(Blend, EveryMix) {
     }
 }
 
+// In rows that are as wide as the block, and in strips: wide and narrow rows are mixed in different ways.
 TEST(Mask, EveryMix) {
-    std::vector<std::uint8_t> coverage(256 * 256);
-    std::vector<std::uint32_t> ground(256 * 256);
-    for (std::uint32_t i = 0; i < 256 * 256; ++i) {
+    constexpr int size = 256;
+    std::vector<std::uint8_t> coverage(size * size);
+    std::vector<std::uint32_t> ground(size * size);
+    for (std::uint32_t i = 0; i < size * size; ++i) {
         const std::uint32_t under = i & 0xFF;
         coverage[i] = static_cast<std::uint8_t>(i >> 8);
         ground[i] = under << 16 | (255 - under) << 8 | (under ^ 0x55);
     }
     for (std::uint32_t over = 0; over < 256; ++over) {
         const std::uint32_t color = over << 16 | (over ^ 0xAA) << 8 | (255 - over);
-        std::vector<std::uint32_t> result = ground;
-        raster::mask({result.data(), 256, 256, 256}, {0, 0, 256, 256}, {0, 0}, coverage.data(), 256, 256, 256,
-                     color);
-        for (std::uint32_t i = 0; i < 256 * 256; ++i)
-            ASSERT_EQ(result[i] & 0xFFFFFF, mixed(color, ground[i], coverage[i]))
+        std::vector<std::uint32_t> rows = ground;
+        std::vector<std::uint32_t> strips = ground;
+        raster::mask({rows.data(), size, size, size}, {0, 0, size, size}, {0, 0}, coverage.data(), size, size,
+                     size, color);
+        const raster::Canvas canvas{strips.data(), size, size, size};
+        for (int x = 0, width = 1; x < size; x += width, width = width % 7 + 1)
+            raster::mask(canvas, {0, 0, size, size}, {x, 0}, coverage.data() + x, std::min(width, size - x),
+                         size, size, color);
+        for (std::uint32_t i = 0; i < size * size; ++i) {
+            ASSERT_EQ(rows[i] & 0xFFFFFF, mixed(color, ground[i], coverage[i]))
                 << std::hex << color << " on " << ground[i];
+            ASSERT_EQ(strips[i] & 0xFFFFFF, mixed(color, ground[i], coverage[i]))
+                << std::hex << color << " on " << ground[i];
+        }
     }
 }
 
