@@ -1,0 +1,17 @@
+#ifndef TESTS_GOLDEN_SCENES_H
+#define TESTS_GOLDEN_SCENES_H
+
+#include <vector>
+
+#include "stage.h"
+
+// One picture: a name, which is its file's as well, a size, and what is painted.
+struct Scene {
+    const char* name;
+    int width, height;
+    void (*paint)(Stage& stage);
+};
+
+extern const std::vector<Scene> BOX_SCENES, LABEL_SCENES, BUTTON_SCENES, PART_SCENES;
+
+#endif
