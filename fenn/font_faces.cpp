@@ -13,7 +13,8 @@
 namespace fenn {
 namespace {
 
-constexpr int MAX_EM = 512; // pixels; larger letters are no use in a window
+constexpr std::size_t MANY = 8192; // answers that are kept
+constexpr int MAX_EM = 512;        // pixels; larger letters are no use in a window
 
 struct Face {
     FontFile file;
@@ -82,16 +83,16 @@ int open_font(const Wanted& wanted) {
     Faces& all = faces();
     const auto known = all.fonts.find(wanted);
     if (known != all.fonts.end()) return known->second;
+    if (all.fonts.size() >= MANY) all.fonts.clear();
     return all.fonts[wanted] = open_file(find_font(wanted));
 }
 
 int open_fallback(const Wanted& wanted, char32_t code, char32_t before) {
-    constexpr std::size_t MANY = 8192;
     Faces& all = faces();
     const CodeKey key{wanted, code, before};
     const auto known = all.fallbacks.find(key);
     if (known != all.fallbacks.end()) return known->second;
-    if (all.fallbacks.size() > MANY) all.fallbacks.clear();
+    if (all.fallbacks.size() >= MANY) all.fallbacks.clear();
     std::vector<char32_t> codes{code};
     if (before) codes.push_back(before);
     int face = open_file(find_fallback(wanted, codes));

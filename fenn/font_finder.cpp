@@ -159,6 +159,8 @@ FontFile find_short(const Wanted& wanted) {
 FcFontSet* fallback_order(const Wanted& wanted) {
     Finder& all = finder();
     if (!all.config) return nullptr;
+    constexpr std::size_t MANY = 32;
+    if (all.orders.size() >= MANY && !all.orders.count(wanted)) all.orders.clear();
     FontSet& order = all.orders[wanted];
     if (!order) {
         const Pattern pattern = whole_pattern(all.config.get(), wanted);

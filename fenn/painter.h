@@ -26,6 +26,11 @@ void changed(const raster::Rect& rect);
 // From the contract's rows, Y upward, to the canvas' and back.
 int flip(const raster::Canvas& canvas, int y);
 
+// From a drawing word, 0xAABBGGRR, to a pixel, 0x00RRGGBB.
+constexpr std::uint32_t pixel_of(std::uint32_t word) {
+    return (word & 0xFF) << 16 | (word & 0xFF00) | (word >> 16 & 0xFF);
+}
+
 // Coordinates beyond this show nothing; cut to it, their sums and differences stay within an int.
 constexpr int farthest = 1 << 29;
 constexpr int limit(std::int64_t value) {

@@ -14,11 +14,6 @@
 namespace fenn {
 namespace {
 
-// From a drawing word, 0xAABBGGRR, to a pixel, 0x00RRGGBB.
-constexpr std::uint32_t pixel_of(DWORD word) {
-    return (word & 0xFF) << 16 | (word & 0xFF00) | (word >> 16 & 0xFF);
-}
-
 raster::Point place(const Bracket& on, int x, int y) { return {limit(x), flip(on.canvas, y)}; }
 
 raster::Rect bounds(raster::Point a, raster::Point b) {

@@ -13,11 +13,6 @@ LOGFONTW describe_font(HFONT font);
 // What a null font stands for: arial 12, which is 16 pixels.
 LOGFONTW default_font();
 
-// From a drawing word, 0xAABBGGRR, to a pixel, 0x00RRGGBB.
-constexpr std::uint32_t pixel_of(std::uint32_t word) {
-    return (word & 0xFF) << 16 | (word & 0xFF00) | (word >> 16 & 0xFF);
-}
-
 namespace system_text {
 
 int height(HFONT font);

@@ -6,6 +6,7 @@
 #include <brask/fenn_host.h>
 
 #include "fenn/builtin_font.h"
+#include "fenn/painter.h"
 #include "fenn/system_text.h"
 #include "fenn/text_run.h"
 #include "text/unicode.h"

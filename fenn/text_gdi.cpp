@@ -190,7 +190,10 @@ int write(HFONT handle, int x, int y, const wchar_t* text, std::uint32_t color) 
     const bool right_to_left = is_right_to_left(clean);
     const TextContext context(target->dc, color & 0xFFFFFF, right_to_left);
     const int left = limit(x), bottom = limit(y);
-    const int baseline = flip(target->canvas, bottom) - (font.boxes.height - 1) + font.boxes.ascent;
+    const int height = font.boxes.height;
+    const int baseline = flip(target->canvas, bottom) - (height - 1) + font.boxes.ascent;
+    // Letters may reach out of their line and beyond its ends.
+    changed({left - height, baseline - 2 * height, left + measured.width + height, baseline + height});
     if (measured.is_plain) {
         context.write(left, baseline, {clean.c_str(), static_cast<int>(clean.size()), font.own});
     } else {

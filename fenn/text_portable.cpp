@@ -4,6 +4,7 @@
 
 #include "fenn/builtin_font.h"
 #include "fenn/font_faces.h"
+#include "fenn/painter.h"
 #include "fenn/system_text.h"
 #include "fenn/text_codes.h"
 #include "fenn/text_run.h"
