@@ -58,8 +58,7 @@ Act choose(Chance& chance, const Control&) {
 const wchar_t* const kNames[] = {L"",
                                  L"name",
                                  L"a longer name than the control is wide",
-                                 L"r\x04"
-                                 L"ed \xF1 bold",
+                                 L"r\x04p \xF1 bold",
                                  L"\x01\x02",
                                  L"\x645\x631\x62D\x628\x627"};
 

@@ -243,7 +243,8 @@ void faces_outlive(bool source_first) {
     auto* copy = new Control(*source);
     Control third;
     third = *copy;
-    third = third;
+    const Control& itself = third;
+    third = itself;
     delete (source_first ? source : copy);
     auto* left = source_first ? copy : source;
     left->Draw();

@@ -179,9 +179,10 @@ TEST(ColorsArithmetic, AddsAndSubtractsColoursChannelByChannel) {
     EXPECT_EQ(channels(c), (Channels{200, 200, 200, 9})); // out of range on the way and back, not 155
     EXPECT_EQ(&(c += Colors(1, -2, 300, 50)), &c);
     EXPECT_EQ(channels(c), (Channels{201, 198, 500, 9}));
-    c += c;
+    const Colors& itself = c;
+    c += itself;
     EXPECT_EQ(channels(c), (Channels{402, 396, 1000, 9}));
-    c -= c;
+    c -= itself;
     EXPECT_EQ(channels(c), (Channels{0, 0, 0, 9}));
 }
 

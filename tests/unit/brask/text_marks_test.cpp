@@ -157,6 +157,19 @@ TEST_F(TextMarks, AnyLengthAndAnyMarksAreHarmless) {
     EXPECT_FALSE(recorder::open());
 }
 
+// However long the text, a surrogate pair is not parted between two writes. (0xD83D 0xDE00; neither half is a
+// mark by its low byte.)
+TEST_F(TextMarks, PairsStayTogetherInLongTexts) {
+    for (const std::size_t odd : {0u, 1u}) {
+        std::wstring text(odd, L'x');
+        for (int i = 0; i < 1500; ++i)
+            text += {wchar_t(0xD83D), wchar_t(0xDE00)};
+        const std::string lines = painted([&] { tools.Text(text.c_str(), TEXT_LEFT, 0, 0, 10, 10, 3, 0); });
+        EXPECT_NE(lines.find("\xF0\x9F\x98\x80"), std::string::npos);
+        EXPECT_EQ(lines.find("\xED"), std::string::npos); // a lone half, as the recorder writes it
+    }
+}
+
 TEST_F(TextMarks, ExtremeRectanglesAreHarmless) {
     const int values[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
     for (const DWORD flag : {DWORD(0), OUTIL_VERTICAL})
