@@ -116,6 +116,16 @@ TEST(Arcs, NearTheCircle) {
     }
 }
 
+// With radius 8 the circle of 7.5 round the middle passes through (4.5, 6), halfway between two pixels.
+TEST(Arcs, TheInnerOneOfTwoEquallyNear) {
+    Sheet sheet(20, 20);
+    arc(sheet, {17, 9}, {10, 10}, 8, 0, 360);
+    EXPECT_TRUE(sheet.is_inked(10 + 4, 10 - 6)); // 5.5 above the middle
+    EXPECT_FALSE(sheet.is_inked(10 + 4, 10 - 7));
+    EXPECT_TRUE(sheet.is_inked(10 + 5, 10 - 5)); // 5.5 to the right
+    EXPECT_FALSE(sheet.is_inked(10 + 6, 10 - 5));
+}
+
 // Each part of a turn paints what the others do not.
 TEST(Arcs, PartsMakeTheWhole) {
     Dice dice(10);
