@@ -46,7 +46,7 @@ std::size_t size_of(const Glyph& glyph) { return sizeof glyph + glyph.shape.byte
 
 std::size_t size_of(const Run& run) {
     return sizeof run + run.text.size() * sizeof(wchar_t) + run.glyphs.capacity() * sizeof(Placed) +
-           run.picture.bytes.size() + 32;
+           run.picture.eights.capacity() * sizeof(raster::Eight) + 32;
 }
 
 void make_room_for_runs(Caches& all) {
@@ -66,7 +66,7 @@ void lay_out(Font& font, const wchar_t* text, std::size_t length, Run& run) {
 }
 
 bool is_of(const Run& run, const Font& font, const wchar_t* text, std::size_t length) {
-    return run.font == font.id && run.text.size() == length && !std::wmemcmp(run.text.data(), text, length);
+    return run.text.size() == length && !std::wmemcmp(run.text.data(), text, length);
 }
 
 struct Key {
@@ -76,7 +76,7 @@ struct Key {
 
 Key key_of(const Font& font, const wchar_t* text) {
     const wchar_t* at = text;
-    std::uint64_t hash = mix(0, font.id);
+    std::uint64_t hash = mix(0, 0);
     for (; *at; ++at)
         hash = mix(hash, static_cast<std::uint32_t>(*at));
     return {hash, static_cast<std::size_t>(at - text)};
@@ -154,15 +154,17 @@ bool compose(Font& font, Run& run) {
     raster::Rect box{remote, remote, -remote, -remote};
     for (const Placed& placed : run.glyphs)
         frame_in(find_glyph(font, placed.glyph).shape, placed.x, placed.y, box);
-    Coverage& picture = run.picture;
     if (box.left < box.right) {
         const std::size_t width = static_cast<std::size_t>(box.right - box.left);
         const std::size_t height = static_cast<std::size_t>(box.bottom - box.top);
         if (width * height > LARGE_PICTURE) return false;
-        picture = {box.left, box.top, static_cast<int>(width), static_cast<int>(height), {}};
+        Coverage picture{box.left, box.top, static_cast<int>(width), static_cast<int>(height), {}};
         picture.bytes.assign(width * height, 0);
         for (const Placed& placed : run.glyphs)
             add(find_glyph(font, placed.glyph).shape, placed.x, placed.y, picture);
+        run.left = picture.left;
+        run.top = picture.top;
+        run.picture = raster::make_ink(picture.bytes.data(), picture.width, picture.height, picture.width);
     }
     run.glyphs = {};
     return run.painted = true;
@@ -237,7 +239,10 @@ int run_write(Font& font, int x, int y, const wchar_t* text, std::uint32_t color
         }
         if (&run != &caches().long_run) caches().young_bytes += size_of(run) - before;
     }
-    if (!run.picture.bytes.empty()) paint(*target, run.picture, left, top, color);
+    if (run.picture.eights.empty()) return run.width;
+    const raster::Point to{limit(std::int64_t{left} + run.left), limit(std::int64_t{top} + run.top)};
+    raster::paint_ink(target->canvas, target->clip, to, run.picture, color);
+    changed({to.x, to.y, to.x + run.picture.width, to.y + run.picture.height});
     return run.width;
 }
 

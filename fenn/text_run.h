@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "raster/ink.h"
+
 // Text that the layer renders itself: runs of glyphs as blocks of coverage, kept while they are in use.
 namespace fenn {
 
@@ -37,8 +39,9 @@ struct Run {
     std::wstring text;
     int width = 0;
     std::vector<Placed> glyphs;
-    bool painted = false; // `picture` holds everything
-    Coverage picture;
+    bool painted = false;  // `picture` holds everything
+    int left = 0, top = 0; // where the picture lies from the run's upper left corner, Y downward
+    raster::Ink picture;
 };
 
 // How a kind of font does its work.

@@ -54,8 +54,13 @@ void copy(const Canvas& canvas, const Rect& clip, Point to, const Image& source,
     if (!source.pixels) return;
     const Block block = cut(paintable(canvas, clip), to, from, width, height, source.width, source.height);
     const int rows = block.area.bottom - block.area.top;
-    const std::size_t size =
-        sizeof(std::uint32_t) * static_cast<std::size_t>(block.area.right - block.area.left);
+    const int columns = block.area.right - block.area.left;
+    const std::size_t size = sizeof(std::uint32_t) * static_cast<std::size_t>(columns);
+    if (rows > 0 && columns == canvas.pitch && columns == source.pitch) { // no gaps between the rows
+        std::memmove(row_at(canvas, block.area.left, block.area.top), row_of(source, block.from),
+                     size * static_cast<std::size_t>(rows));
+        return;
+    }
     // Downward within one canvas the lower rows go first, so that none is overwritten before it was read.
     const bool lower_first = source.pixels == canvas.pixels && block.area.top > block.from.y;
     for (int i = 0; i < rows; ++i) {
@@ -79,11 +84,9 @@ void mask(const Canvas& canvas, const Rect& clip, Point to, const std::uint8_t* 
           int height, int pitch, std::uint32_t color) {
     if (!coverage) return;
     const Block block = cut(paintable(canvas, clip), to, {0, 0}, width, height, width, height);
-    if (is_empty(block.area)) return;
-    mix_rows({row_at(canvas, block.area.left, block.area.top),
-              coverage + static_cast<std::ptrdiff_t>(block.from.y) * pitch + block.from.x,
-              block.area.right - block.area.left, block.area.bottom - block.area.top, canvas.pitch, pitch,
-              color});
+    const std::uint8_t* row = coverage + static_cast<std::ptrdiff_t>(block.from.y) * pitch + block.from.x;
+    for (int y = block.area.top; y < block.area.bottom; ++y, row += pitch)
+        mix_row(row_at(canvas, block.area.left, y), row, block.area.right - block.area.left, color);
 }
 
 } // namespace raster

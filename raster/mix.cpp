@@ -77,44 +77,31 @@ __attribute__((target("avx2"))) inline void mix_eight(std::uint32_t* to, std::ui
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(to), _mm256_packus_epi16(low, high));
 }
 
-// Rows of at least eight pixels. The last eight overlap those before them, whose coverage is taken away, so
-// that they stay as they are; they go first, since what was just written is slow to read again at another
-// place.
-__attribute__((target("avx2"))) void mix_eights(const Covering& work) {
-    const __m256i turned = _mm256_set1_epi32(static_cast<int>(work.color ^ 0x80808080));
-    const int whole = work.count & -EIGHT, rest = work.count - whole, last = work.count - EIGHT;
-    const int done_bits = 8 * (EIGHT - rest);
-    std::uint32_t* to = work.to;
-    const std::uint8_t* coverage = work.coverage;
-    for (int row = 0; row < work.rows; ++row, to += work.pitch, coverage += work.coverage_pitch) {
-        std::uint64_t eight;
-        if (rest) {
-            std::memcpy(&eight, coverage + last, sizeof eight);
-            mix_eight(to + last, eight >> done_bits << done_bits, turned);
-        }
-        for (int i = 0; i < whole; i += EIGHT) {
-            std::memcpy(&eight, coverage + i, sizeof eight);
-            mix_eight(to + i, eight, turned);
-        }
+__attribute__((target("avx2"))) void mix_wide(std::uint32_t* to, int pitch, const Eight* eights,
+                                              std::size_t count, std::uint32_t color) {
+    const __m256i turned = _mm256_set1_epi32(static_cast<int>(color ^ 0x80808080));
+    for (const Eight* eight = eights; eight != eights + count; ++eight) {
+        std::uint64_t coverage;
+        std::memcpy(&coverage, eight->coverage, sizeof coverage);
+        mix_eight(to + static_cast<std::ptrdiff_t>(eight->y) * pitch + eight->x, coverage, turned);
     }
 }
 #else
 bool wide_registers() { return false; }
-void mix_eights(const Covering&) {}
+void mix_wide(std::uint32_t*, int, const Eight*, std::size_t, std::uint32_t) {}
 #endif
+
+} // namespace
 
 void mix_row(std::uint32_t* to, const std::uint8_t* coverage, int count, std::uint32_t color) {
     for (int i = mix_fours(to, coverage, count, color); i < count; ++i)
         to[i] = mix(color, to[i], coverage[i]);
 }
 
-} // namespace
-
-void mix_rows(const Covering& work) {
-    if (work.count >= EIGHT && wide_registers()) return mix_eights(work);
-    for (std::ptrdiff_t row = 0; row < work.rows; ++row)
-        mix_row(work.to + row * work.pitch, work.coverage + row * work.coverage_pitch, work.count,
-                work.color);
+void mix_eights(std::uint32_t* to, int pitch, const Eight* eights, std::size_t count, std::uint32_t color) {
+    if (wide_registers()) return mix_wide(to, pitch, eights, count, color);
+    for (const Eight* eight = eights; eight != eights + count; ++eight)
+        mix_row(to + static_cast<std::ptrdiff_t>(eight->y) * pitch + eight->x, eight->coverage, EIGHT, color);
 }
 
 } // namespace raster

@@ -1,9 +1,12 @@
 #ifndef RASTER_MIX_H
 #define RASTER_MIX_H
 
+#include <cstddef>
 #include <cstdint>
 
-// How two colours mix, for one pixel and for rows of them; see images.h for the rule.
+#include "ink.h"
+
+// How two colours mix, for one pixel and for many; see images.h for the rule.
 namespace raster {
 
 // x / 255 to the nearest, for x up to 255 * 255 in each half of the word.
@@ -20,15 +23,10 @@ constexpr std::uint32_t mix(std::uint32_t over, std::uint32_t under, std::uint32
     return even | odd << 8;
 }
 
-// Mixes one colour into `rows` rows of `count` pixels, by coverage bytes. Pitches are from one row to the
-// next.
-struct Covering {
-    std::uint32_t* to;
-    const std::uint8_t* coverage;
-    int count, rows, pitch, coverage_pitch;
-    std::uint32_t color;
-};
-void mix_rows(const Covering& covering);
+// Mixes one colour into a row by coverage bytes.
+void mix_row(std::uint32_t* to, const std::uint8_t* coverage, int count, std::uint32_t color);
+// The same for eights of pixels, whose places count from `to`.
+void mix_eights(std::uint32_t* to, int pitch, const Eight* eights, std::size_t count, std::uint32_t color);
 
 } // namespace raster
 

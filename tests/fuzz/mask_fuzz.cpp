@@ -6,6 +6,7 @@
 
 #include "input.h"
 #include "raster/images.h"
+#include "raster/ink.h"
 
 namespace {
 
@@ -55,6 +56,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Block block = some_block(input);
 
     const std::vector<std::uint32_t> before = pixels;
+    std::vector<std::uint32_t> inked = pixels;
+    const raster::Ink ink = raster::make_ink(block.coverage.data(), block.width, block.height, block.pitch);
+    raster::paint_ink({inked.data(), width, height, pitch}, clip, {block.left, block.top}, ink, color);
     raster::mask({pixels.data(), width, height, pitch}, clip, {block.left, block.top},
                  block.coverage.empty() ? nullptr : block.coverage.data(), block.width, block.height,
                  block.pitch, color);
@@ -66,6 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const std::uint32_t wanted =
             covered ? mean(color, before[i], block.coverage[row * block.pitch + column]) : before[i];
         expect((pixels[i] & 0xFFFFFF) == wanted, "a pixel under a block of coverage");
+        expect((inked[i] & 0xFFFFFF) == wanted, "a pixel under ink");
     }
     return 0;
 }
