@@ -31,7 +31,7 @@ static WPARAM activation_word(HWND wnd, int how) {
 }
 
 void activate_window(HWND wnd, int how) {
-    if (active == wnd) return;
+    if (active == wnd || (wnd && !find_window(wnd))) return;
     const HWND old = std::exchange(active, wnd);
     SendMessageW(old, WM_ACTIVATE, activation_word(old, WA_INACTIVE), reinterpret_cast<LPARAM>(wnd));
     if (active != wnd) return; // the host chose another one meanwhile
@@ -90,10 +90,9 @@ BOOL EnableWindow(HWND wnd, BOOL enable) {
     const bool was_disabled = window->style & WS_DISABLED;
     if (was_disabled != (enable != FALSE)) return was_disabled;
     window->style ^= WS_DISABLED;
-    if (!enable && focus == wnd) move_focus(nullptr);
     if (!enable && GetCapture() == wnd) ReleaseCapture();
+    if (!enable && focus == wnd) move_focus(nullptr);
     SendMessageW(wnd, WM_ENABLE, enable != FALSE, 0);
-    if (enable && active == wnd && !focus) move_focus(wnd);
     return was_disabled;
 }
 

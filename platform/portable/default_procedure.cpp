@@ -17,6 +17,11 @@ static LRESULT keep_title(Window& window, LPCWSTR title) {
     return TRUE;
 }
 
+static LRESULT keep_first_title(Window& window, LPARAM lparam) {
+    const auto* wish = reinterpret_cast<const CREATESTRUCTW*>(lparam);
+    return wish ? keep_title(window, wish->lpszName) : FALSE;
+}
+
 static LRESULT give_title(const Window& window, WPARAM size, LPARAM out) {
     auto* text = reinterpret_cast<LPWSTR>(out);
     if (!text || size == 0) return 0;
@@ -60,7 +65,7 @@ LRESULT DefWindowProcW(HWND wnd, UINT message, WPARAM wparam, LPARAM lparam) {
     Window* window = find_window(wnd);
     if (!window) return 0;
     switch (message) {
-    case WM_NCCREATE: return keep_title(*window, reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpszName);
+    case WM_NCCREATE: return keep_first_title(*window, lparam);
     case WM_SETTEXT: return keep_title(*window, reinterpret_cast<LPCWSTR>(lparam));
     case WM_GETTEXT: return give_title(*window, wparam, lparam);
     case WM_GETTEXTLENGTH: return static_cast<LRESULT>(window->title.size());

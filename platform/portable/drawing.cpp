@@ -71,7 +71,7 @@ BOOL AngleArc(HDC handle, int x, int y, DWORD radius, FLOAT start, FLOAT sweep) 
     constexpr DWORD kMostRadius = 0x8000;
     DeviceContext* dc = find_context(handle);
     if (!dc || radius > kMostRadius || !std::isfinite(start) || !std::isfinite(sweep)) return FALSE;
-    if (std::abs(x) > 0x1000000 || std::abs(y) > 0x1000000) return FALSE;
+    if (near_enough(x) != x || near_enough(y) != y) return FALSE;
     std::uint32_t color = 0;
     if (pen_color(*dc, &color)) {
         // Angles count in logical coordinates: where Y runs upward the arc is mirrored.

@@ -10,13 +10,20 @@
 // Keyboard events and changes of focus on their way to the host.
 namespace platform {
 
-static bool change_focus(const Input& input, bool take) {
-    if (take) activate_window(find_window(input.wnd) ? input.wnd : nullptr, WA_ACTIVE);
-    return false; // the host hears of it by sent messages
+// The host hears of it by sent messages.
+static void change_focus(const Input& input) {
+    if (input.down) {
+        activate_window(input.wnd, WA_ACTIVE);
+    } else if (GetActiveWindow() == input.wnd) { // or another one of ours has been activated meanwhile
+        activate_window(nullptr, WA_INACTIVE);
+    }
 }
 
 bool key_message(const Input& input, bool take, MSG* msg) {
-    if (input.kind == Input::Kind::focus) return change_focus(input, take);
+    if (input.kind == Input::Kind::focus) {
+        if (take) change_focus(input);
+        return false;
+    }
     if (take && input.kind == Input::Kind::key) {
         keys_taken().set(input.virtual_key, input.down);
         keys_taken().set_locks(input.locks);
@@ -31,10 +38,17 @@ bool key_message(const Input& input, bool take, MSG* msg) {
 void desktop_focus(HWND wnd, bool gained) {
     if (!find_window(wnd)) return;
     if (!gained) release_keys(GetTickCount());
-    Input input;
-    input.kind = Input::Kind::focus;
-    input.wnd = gained ? wnd : nullptr;
-    queue_input(input);
+    Input change;
+    change.kind = Input::Kind::focus;
+    change.wnd = wnd;
+    change.down = gained;
+    Input* last = last_input();
+    // From one window of ours to another it passes in one step.
+    if (gained && last && last->kind == Input::Kind::focus && !last->down) {
+        *last = change;
+    } else {
+        queue_input(change);
+    }
 }
 
 } // namespace platform

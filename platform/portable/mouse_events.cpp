@@ -105,12 +105,15 @@ struct Click {
 };
 static Click last_click;
 
+static bool is_near(LONG a, LONG b) {
+    constexpr long long kReach = 2; // pixels to each side
+    return std::abs(static_cast<long long>(a) - b) <= kReach;
+}
+
 // The second press of a pair becomes a double click; the third starts anew.
 static bool is_second_click(const MSG& msg, const ButtonRow& button) {
-    constexpr int kReach = 2; // pixels to each side
     const Click click = {msg.hwnd, &button, msg.time, msg.pt};
-    const bool near =
-        std::abs(click.at.x - last_click.at.x) <= kReach && std::abs(click.at.y - last_click.at.y) <= kReach;
+    const bool near = is_near(click.at.x, last_click.at.x) && is_near(click.at.y, last_click.at.y);
     const bool second = near && click.wnd == last_click.wnd && click.button == last_click.button &&
                         click.time - last_click.time <= GetDoubleClickTime();
     last_click = second ? Click{} : click;

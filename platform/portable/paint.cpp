@@ -30,7 +30,8 @@ static void invalidate(Window& window, const RECT* rect, bool erase) {
     const RECT whole = {0, 0, window.size.cx, window.size.cy};
     RECT part = whole;
     if (rect && !IntersectRect(&part, &whole, rect)) return;
-    UnionRect(&window.update, &window.update, &part);
+    UnionRect(&part, &window.update, &part);
+    IntersectRect(&window.update, &whole, &part); // the window may have become smaller since
     window.erase = window.erase || erase;
 }
 

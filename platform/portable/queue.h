@@ -13,7 +13,7 @@ namespace platform {
 struct Input {
     enum class Kind { key, text, mouse, focus };
     Kind kind = Kind::key;
-    HWND wnd = nullptr; // mouse: under the pointer; focus: which one, null: none
+    HWND wnd = nullptr; // mouse: under the pointer; focus: gained or lost
     UINT message = 0;
     WPARAM wparam = 0;
     LPARAM lparam = 0; // of keys
@@ -21,7 +21,7 @@ struct Input {
     POINT screen{}; // the pointer
 
     int virtual_key = 0; // whose state changes when the message is taken, left and right told apart; 0: none
-    bool down = false;
+    bool down = false;   // key and button: pressed; focus: gained
     unsigned locks = 0;  // as of the event
     int symbol = 0;      // the layout's character of a key, 0: none
     std::u16string text; // that the key types

@@ -96,6 +96,7 @@ HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR title, DWORD st
         DestroyWindow(wnd);
         return nullptr;
     }
+    if (style & WS_POPUP) tell_first_size(wnd); // others hear of it when they are shown
     if (style & WS_VISIBLE) ShowWindow(wnd, SW_SHOW);
     return find_window(wnd) ? wnd : nullptr;
 }
@@ -106,8 +107,8 @@ BOOL DestroyWindow(HWND wnd) {
     window->destroying = true;
     hide_window(wnd);
     leave_activation(wnd);
-    SendMessageW(wnd, WM_DESTROY, 0, 0);
     end_owned(wnd);
+    SendMessageW(wnd, WM_DESTROY, 0, 0);
     SendMessageW(wnd, WM_NCDESTROY, 0, 0);
     release_window(wnd);
     return TRUE;

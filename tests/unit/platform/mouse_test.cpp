@@ -282,7 +282,9 @@ TEST(Mouse, MessagesTellTimeAndPlace) {
 }
 
 TEST(Mouse, AWindowThatEndsAtItsCursorQuestionIsNotTouchedAgain) {
-    ShownHost host;
+    Host host;
+    ShowWindow(host.wnd, SW_SHOWNA);
+    host.run();
     host.answer = [&](UINT message, WPARAM, LPARAM, LRESULT* result) {
         if (message != WM_SETCURSOR) return false;
         DestroyWindow(host.wnd);
@@ -291,4 +293,5 @@ TEST(Mouse, AWindowThatEndsAtItsCursorQuestionIsNotTouchedAgain) {
     };
     click(host.wnd, 1, 5, 5, 1);
     EXPECT_TRUE(host.run_mouse().empty());
+    EXPECT_EQ(GetActiveWindow(), nullptr);
 }

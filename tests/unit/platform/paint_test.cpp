@@ -149,6 +149,8 @@ TEST(Paint, AResizeAsksForEverything) {
     ShownHost host;
     platform::desktop_resize(host.wnd, 70, 60);
     EXPECT_UPDATE(host.wnd, 0, 0, 70, 60);
+    platform::desktop_resize(host.wnd, 30, 80); // with that request still waiting
+    EXPECT_UPDATE(host.wnd, 0, 0, 30, 80);
 }
 
 TEST(Paint, BadArgumentsAreHarmless) {

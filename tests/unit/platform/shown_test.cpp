@@ -19,6 +19,13 @@ TEST(Shown, FirstShowTellsInTheOrderOfTheSystem) {
     EXPECT_TRUE(host.run().empty());
 }
 
+TEST(Shown, APopUpKnowsItsSizeFromItsCreation) {
+    Host host(WS_POPUP);
+    EXPECT_EQ(host.names(), (std::vector<UINT>{WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE}));
+    ShowWindow(host.wnd, SW_SHOW);
+    EXPECT_TRUE(host.run(WM_SIZE, WM_SIZE).empty());
+}
+
 TEST(Shown, AVisibleStyleShowsAtCreation) {
     Host host(WS_OVERLAPPEDWINDOW | WS_VISIBLE);
     EXPECT_TRUE(IsWindowVisible(host.wnd));
@@ -107,13 +114,38 @@ TEST(Shown, DisablingTakesFocusAndCapture) {
     ShownHost host;
     SetCapture(host.wnd);
     EXPECT_FALSE(EnableWindow(host.wnd, FALSE));
-    EXPECT_EQ(host.names(), (std::vector<UINT>{WM_KILLFOCUS, WM_CAPTURECHANGED, WM_ENABLE}));
+    EXPECT_EQ(host.names(), (std::vector<UINT>{WM_CAPTURECHANGED, WM_KILLFOCUS, WM_ENABLE}));
     EXPECT_FALSE(IsWindowEnabled(host.wnd));
     EXPECT_EQ(SetFocus(host.wnd), nullptr);
     EXPECT_TRUE(EnableWindow(host.wnd, FALSE));
     EXPECT_TRUE(host.run().empty());
     EXPECT_TRUE(EnableWindow(host.wnd, TRUE));
+    EXPECT_EQ(host.names(), (std::vector<UINT>{WM_ENABLE})); // the focus is the host's to give back
+    EXPECT_EQ(SetFocus(host.wnd), nullptr);
     EXPECT_EQ(GetFocus(), host.wnd);
+}
+
+TEST(Shown, TheLossOfAWindowThatIsNotActiveIsOldNews) {
+    ShownHost first;
+    platform::desktop_focus(first.wnd, false);
+    Host second;
+    ShowWindow(second.wnd, SW_SHOW);
+    second.run();
+    EXPECT_EQ(GetActiveWindow(), second.wnd);
+}
+
+TEST(Shown, BetweenTwoWindowsTheKeyboardPassesInOneStep) {
+    ShownHost first;
+    Host second;
+    ShowWindow(second.wnd, SW_SHOWNA);
+    second.run();
+    first.run();
+    platform::desktop_focus(first.wnd, false);
+    platform::desktop_focus(second.wnd, true);
+    second.run();
+    const auto next = reinterpret_cast<LPARAM>(second.wnd);
+    EXPECT_EQ(first.run(), (std::vector<Heard>{{WM_ACTIVATE, WA_INACTIVE, next},
+                                               {WM_KILLFOCUS, static_cast<WPARAM>(next), 0}}));
 }
 
 TEST(Shown, AHostMayChooseAnotherWindowWhileItIsDeactivated) {

@@ -205,8 +205,14 @@ TEST(WindowLife, OwnedWindowsEndWithTheirOwner) {
     Host owner;
     Host owned(WS_POPUP, 0, owner.wnd);
     EXPECT_EQ(GetParent(owned.wnd), owner.wnd);
+    bool owned_at_end = true;
+    owner.answer = [&](UINT message, WPARAM, LPARAM, LRESULT*) {
+        if (message == WM_DESTROY) owned_at_end = IsWindow(owned.wnd);
+        return false;
+    };
     DestroyWindow(owner.wnd);
     EXPECT_FALSE(IsWindow(owned.wnd));
+    EXPECT_FALSE(owned_at_end); // the owner goes last
 }
 
 TEST(WindowLife, ChildWindowsAndDeadOwnersAreRefused) {
