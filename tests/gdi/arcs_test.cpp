@@ -71,29 +71,52 @@ TEST(GdiArcs, WholeCircles) {
               "");
 }
 
-// With Y upward GDI mirrors where an arc begins and ends, but not which way round it goes.
+// Draws it with GDI in a context whose Y runs upward, from and around the same pixels.
+static void draw_upward(HDC dc, const Curve& curve) {
+    SetMapMode(dc, MM_ANISOTROPIC);
+    SetWindowExtEx(dc, 1, 1, nullptr);
+    SetViewportExtEx(dc, 1, -1, nullptr);
+    SetViewportOrgEx(dc, 0, HEIGHT - 1, nullptr);
+    MoveToEx(dc, curve.from.x, HEIGHT - 1 - curve.from.y, nullptr);
+    AngleArc(dc, curve.center.x, HEIGHT - 1 - curve.center.y, static_cast<DWORD>(curve.radius), curve.start,
+             curve.sweep);
+    SetViewportOrgEx(dc, 0, 0, nullptr);
+    SetMapMode(dc, MM_TEXT);
+}
+
+// GDI mirrors where an arc begins and ends there, but not which way round it goes.
+static float sweep_upward(float sweep) {
+    if (std::abs(sweep) >= 360) return sweep;
+    return sweep > 0 ? 360 - sweep : -360 - sweep;
+}
+
+static std::string draw_both_upward(Pair& pair, const Curve& a, std::uint32_t color) {
+    const Selected pen(pair.gdi.dc, CreatePen(PS_SOLID, 1, reference(color)));
+    draw_upward(pair.gdi.dc, a);
+    raster::angle_arc(pair.canvas, pair.clip, a.from, a.center, static_cast<std::uint32_t>(a.radius),
+                      -a.start, sweep_upward(a.sweep), 1, color);
+    return told(a) + " with Y upward";
+}
+
 TEST(GdiArcs, CirclesWithYUpward) {
     EXPECT_EQ(compare(42, 1000,
                       [](Pair& pair, Random& random) {
                           Curve a = curve(random, 1, 40);
                           a.start = random.between(-8, 8) * 90.0f;
                           a.sweep = random.one_in(2) ? 360.0f : -360.0f;
-                          const std::uint32_t color = random.color();
-                          const HDC dc = pair.gdi.dc;
-                          const Selected pen(dc, CreatePen(PS_SOLID, 1, reference(color)));
-                          SetMapMode(dc, MM_ANISOTROPIC);
-                          SetViewportExtEx(dc, 1, -1, nullptr);
-                          SetWindowExtEx(dc, 1, 1, nullptr);
-                          SetViewportOrgEx(dc, 0, HEIGHT - 1, nullptr);
-                          MoveToEx(dc, a.from.x, HEIGHT - 1 - a.from.y, nullptr);
-                          AngleArc(dc, a.center.x, HEIGHT - 1 - a.center.y, static_cast<DWORD>(a.radius),
-                                   a.start, a.sweep);
-                          SetViewportOrgEx(dc, 0, 0, nullptr);
-                          SetMapMode(dc, MM_TEXT);
-                          raster::angle_arc(pair.canvas, pair.clip, a.from, a.center,
-                                            static_cast<std::uint32_t>(a.radius), -a.start, a.sweep, 1,
-                                            color);
-                          return told(a) + " with Y upward";
+                          return draw_both_upward(pair, a, random.color());
+                      }),
+              "");
+}
+
+// By quarters: in between, an end halfway between two pixels goes up in one context and down in the other.
+TEST(GdiArcs, QuartersWithYUpward) {
+    EXPECT_EQ(compare(46, 1000,
+                      [](Pair& pair, Random& random) {
+                          Curve a = curve(random, 2, 40);
+                          a.start = random.between(-8, 8) * 90.0f;
+                          a.sweep = random.between(1, 3) * (random.one_in(2) ? 90.0f : -90.0f);
+                          return draw_both_upward(pair, a, random.color());
                       }),
               "");
 }
