@@ -66,7 +66,7 @@ void lay_out(Font& font, const wchar_t* text, std::size_t length, Run& run) {
 }
 
 bool is_of(const Run& run, const Font& font, const wchar_t* text, std::size_t length) {
-    return run.text.size() == length && !std::wmemcmp(run.text.data(), text, length);
+    return run.font == font.id && run.text.size() == length && !std::wmemcmp(run.text.data(), text, length);
 }
 
 struct Key {
@@ -76,7 +76,7 @@ struct Key {
 
 Key key_of(const Font& font, const wchar_t* text) {
     const wchar_t* at = text;
-    std::uint64_t hash = mix(0, 0);
+    std::uint64_t hash = mix(0, font.id);
     for (; *at; ++at)
         hash = mix(hash, static_cast<std::uint32_t>(*at));
     return {hash, static_cast<std::size_t>(at - text)};
