@@ -20,10 +20,10 @@ void paint_cut(const Canvas& canvas, const Rect& area, std::int64_t x, std::int6
                std::uint32_t color) {
     if (y < area.top || y >= area.bottom) return;
     const std::int64_t begin = std::max<std::int64_t>(x, area.left);
-    const int count = static_cast<int>(std::min<std::int64_t>(x + EIGHT, area.right) - begin);
-    if (count > 0)
+    const std::int64_t end = std::min<std::int64_t>(x + EIGHT, area.right);
+    if (begin < end)
         mix_row(row_at(canvas, static_cast<int>(begin), static_cast<int>(y)), eight.coverage + (begin - x),
-                count, color);
+                static_cast<int>(end - begin), color);
 }
 
 } // namespace

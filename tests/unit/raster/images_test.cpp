@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <climits>
 
+#include "raster/ink.h"
 #include "sheet.h"
 
 using raster::Point;
@@ -108,6 +109,23 @@ TEST(Copy, OverlappingBlocksOfOneCanvas) {
         }
 }
 
+TEST(Copy, WholeRowsOfOneCanvas) {
+    constexpr int size = 12;
+    const std::vector<std::uint32_t> before = numbered(size * size);
+    for (int dy = -size; dy <= size; ++dy) {
+        std::vector<std::uint32_t> pixels = before;
+        const raster::Canvas canvas{pixels.data(), size, size, size};
+        raster::copy(canvas, {0, 0, size, size}, {0, dy}, canvas, {0, 0}, size, size);
+        for (int i = 0; i < size * size; ++i) {
+            const int from = i - dy * size;
+            const bool painted = from >= 0 && from < size * size;
+            ASSERT_EQ(pixels[static_cast<std::size_t>(i)],
+                      before[static_cast<std::size_t>(painted ? from : i)])
+                << dy;
+        }
+    }
+}
+
 TEST(Blend, EveryMix) {
     std::vector<std::uint32_t> source(256 * 256);
     for (std::uint32_t i = 0; i < 256 * 256; ++i) {
@@ -136,17 +154,22 @@ TEST(Mask, EveryMix) {
         coverage[i] = static_cast<std::uint8_t>(i >> 8);
         ground[i] = under << 16 | (255 - under) << 8 | (under ^ 0x55);
     }
+    const raster::Ink ink = raster::make_ink(coverage.data(), size, size, size);
     for (std::uint32_t over = 0; over < 256; ++over) {
         const std::uint32_t color = over << 16 | (over ^ 0xAA) << 8 | (255 - over);
         std::vector<std::uint32_t> rows = ground;
         std::vector<std::uint32_t> strips = ground;
+        std::vector<std::uint32_t> inked = ground;
         raster::mask({rows.data(), size, size, size}, {0, 0, size, size}, {0, 0}, coverage.data(), size, size,
                      size, color);
         const raster::Canvas canvas{strips.data(), size, size, size};
         for (int x = 0, width = 1; x < size; x += width, width = width % 7 + 1)
             raster::mask(canvas, {0, 0, size, size}, {x, 0}, coverage.data() + x, std::min(width, size - x),
                          size, size, color);
+        raster::paint_ink({inked.data(), size, size, size}, {0, 0, size, size}, {0, 0}, ink, color);
         for (std::uint32_t i = 0; i < size * size; ++i) {
+            ASSERT_EQ(inked[i] & 0xFFFFFF, mixed(color, ground[i], coverage[i]))
+                << std::hex << color << " on " << ground[i];
             ASSERT_EQ(rows[i] & 0xFFFFFF, mixed(color, ground[i], coverage[i]))
                 << std::hex << color << " on " << ground[i];
             ASSERT_EQ(strips[i] & 0xFFFFFF, mixed(color, ground[i], coverage[i]))
@@ -194,6 +217,34 @@ TEST(MaskAndBlend, CutToEverything) {
                                    coverage[static_cast<std::size_t>(from.y * pitch + from.x)]);
                 ASSERT_EQ(masked.pixel(x, y), wanted) << told(b, clip) << " at " << x << "," << y;
             }
+    }
+}
+
+TEST(Ink, PaintsWhatTheMaskDoes) {
+    constexpr int size = 40;
+    Dice dice(22);
+    Sheet masked(size, size);
+    Sheet inked(size, size);
+    for (int i = 0; i < 10000; ++i) {
+        const int width = dice.between(0, 30);
+        const int height = dice.between(0, 12);
+        const int pitch = width + dice.between(0, 3);
+        std::vector<std::uint8_t> coverage(static_cast<std::size_t>(pitch * height));
+        const int sparse = dice.between(1, 20);
+        for (std::uint8_t& cover : coverage)
+            cover = static_cast<std::uint8_t>(dice.one_in(sparse) ? dice.between(0, 255) : 0);
+        const Point to = dice.point(size);
+        const raster::Rect clip = dice.one_in(2) ? masked.all() : dice.rect(size);
+        masked.wipe();
+        inked.wipe();
+        raster::mask(masked.canvas(), clip, to, coverage.data(), width, height, pitch, Sheet::ink);
+        raster::paint_ink(inked.canvas(), clip, to, raster::make_ink(coverage.data(), width, height, pitch),
+                          Sheet::ink);
+        ASSERT_TRUE(inked.is_margin_clean());
+        for (int y = 0; y < size; ++y)
+            for (int x = 0; x < size; ++x)
+                ASSERT_EQ(inked.pixel(x, y), masked.pixel(x, y))
+                    << width << " by " << height << " to " << to.x << "," << to.y << " at " << x << "," << y;
     }
 }
 
