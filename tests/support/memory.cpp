@@ -7,10 +7,8 @@ namespace memory {
 
 static int countdown = 0; // calls left until the failing one; 0: not armed
 static bool go_on = false, failed = false;
-static int counted = 0;
 
 static bool fails() {
-    ++counted;
     if (failed && go_on) return true;
     if (countdown == 0 || --countdown > 0) return false;
     return failed = true;
@@ -26,12 +24,6 @@ Failing::~Failing() {
     go_on = failed = false;
 }
 bool Failing::happened() const { return failed; }
-
-int asked() {
-    const int result = counted;
-    counted = 0;
-    return result;
-}
 
 #ifdef _WIN32
 // The runtime is linked into the program there, so blocks of the test itself would fail as well.

@@ -18,8 +18,6 @@ class Failing {
 
 // Whether this system's build can do it.
 bool can_fail();
-// Blocks asked for since the last call of this, by the wrapped names.
-int asked();
 
 } // namespace memory
 

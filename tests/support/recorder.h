@@ -35,7 +35,7 @@ struct Line {
     std::string text;
 };
 
-// Forgets the log, names, metrics and pointer; hwnd and the windows' sizes are as at the start.
+// Forgets the log, names, metrics, pointer and picture; the layer's data is as at the start.
 void reset();
 // --- The log ---
 void note(Kind kind, const std::string& line, unsigned code = 0);
