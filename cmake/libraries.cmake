@@ -11,7 +11,8 @@ get_property(fenn_sources GLOBAL PROPERTY HOUSE_SOURCES_fenn)
 add_library(brask STATIC ${brask_sources} $<TARGET_OBJECTS:text>)
 target_link_libraries(brask PUBLIC brask_headers platform_names)
 target_compile_definitions(brask PUBLIC BRASK_STATIC FENN_STATIC)
-target_include_directories(brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items)
+target_include_directories(brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
+                           ${HOUSE_FLOORS}/color)
 
 add_library(fenn STATIC ${fenn_sources})
 target_link_libraries(fenn PUBLIC brask_headers platform raster text PRIVATE fenn_system)
@@ -21,7 +22,8 @@ target_include_directories(fenn PUBLIC ${HOUSE_FLOORS}/fenn)
 # On Windows what a library exports is marked in the objects, so the shared ones are compiled for themselves.
 if(WIN32)
   add_library(Lib_Brask SHARED ${brask_sources} $<TARGET_OBJECTS:text>)
-  target_include_directories(Lib_Brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items)
+  target_include_directories(Lib_Brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
+                           ${HOUSE_FLOORS}/color)
   target_link_libraries(Lib_Brask PUBLIC brask_headers platform_names)
   add_library(Lib_Fenn SHARED ${fenn_sources} $<TARGET_OBJECTS:text> $<TARGET_OBJECTS:raster>)
   target_include_directories(Lib_Fenn PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/raster ${HOUSE_FLOORS}/fenn)
