@@ -12,10 +12,13 @@
 // GDI's fonts, and which of them shows a character. Files of the system with GDI.
 namespace fenn {
 
-// How wide a text is, and whether one call of GDI writes it.
+// What is known of a text in a font.
 struct Measured {
-    int width;
-    bool is_plain;
+    std::wstring clean; // as it is written: with plain blanks for those that the font lacks
+    int width = 0;
+    bool is_plain = true; // one call of GDI writes it
+    bool right_to_left = false;
+    std::vector<int> steps; // of a plain text: how far the pen moves at each character; may be empty
 };
 
 // What is known of a font. Handles come again for other fonts, so it goes by the description.

@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::size_t MANY_TEXTS = 2048;
 constexpr std::size_t LONG_TEXT = 512;
+constexpr int MOST_AT_ONCE = 4096; // GDI refuses texts of more than twice that
 
 // A part of a text in one font; null: boxes.
 struct Part {
@@ -38,7 +39,7 @@ bool is_neutral(char32_t code) {
 }
 
 void add(std::vector<Part>& parts, const Part& part) {
-    if (!parts.empty() && parts.back().font == part.font)
+    if (!parts.empty() && parts.back().font == part.font && parts.back().length < MOST_AT_ONCE)
         parts.back().length += part.length;
     else
         parts.push_back(part);
@@ -93,19 +94,6 @@ std::wstring cleaned(const GdiFont& font, const wchar_t* text) {
     return clean;
 }
 
-Measured measure(GdiFont& font, const std::wstring& text) {
-    const auto known = font.texts.find(text);
-    if (known != font.texts.end()) return known->second;
-    Measured result{0, true};
-    for (const Part& part : parts_of(font, text.c_str())) {
-        result.width += part_width(font, part);
-        result.is_plain &= part.font == font.own;
-    }
-    if (text.size() > LONG_TEXT) return result;
-    if (font.texts.size() >= MANY_TEXTS) font.texts.clear();
-    return font.texts[text] = result;
-}
-
 // The first letter that has a direction gives that of the whole.
 bool is_right_to_left(const std::wstring& text) {
     for (const wchar_t unit : text) {
@@ -130,6 +118,25 @@ std::vector<int> steps_of(const Part& part) {
     return steps;
 }
 
+const Measured& measure(GdiFont& font, const wchar_t* text) {
+    static Measured& long_one = *new Measured;
+    std::wstring key = text;
+    const auto known = font.texts.find(key);
+    if (known != font.texts.end()) return known->second;
+    Measured fresh;
+    fresh.clean = cleaned(font, text);
+    fresh.right_to_left = is_right_to_left(fresh.clean);
+    const std::vector<Part> parts = parts_of(font, fresh.clean.c_str());
+    for (const Part& part : parts)
+        fresh.width += part_width(font, part);
+    fresh.is_plain = parts.size() == 1 && parts[0].font == font.own;
+    if (fresh.is_plain)
+        fresh.steps = steps_of({fresh.clean.c_str(), static_cast<int>(fresh.clean.size()), font.own});
+    if (key.size() > LONG_TEXT) return long_one = std::move(fresh);
+    if (font.texts.size() >= MANY_TEXTS) font.texts.clear();
+    return font.texts[std::move(key)] = std::move(fresh);
+}
+
 // The context as text wants it, Y downward; put back at the end.
 class TextContext {
   public:
@@ -146,9 +153,8 @@ class TextContext {
     TextContext(const TextContext&) = delete;
     TextContext& operator=(const TextContext&) = delete;
 
-    void write(int x, int baseline, const Part& part) const {
+    void write(int x, int baseline, const Part& part, const std::vector<int>& steps) const {
         SelectObject(dc, part.font);
-        const std::vector<int> steps = steps_of(part);
         ExtTextOutW(dc, x, baseline, 0, nullptr, part.text, static_cast<UINT>(part.length),
                     steps.empty() ? nullptr : steps.data());
     }
@@ -160,10 +166,10 @@ class TextContext {
 
 // One after the other in reading order.
 void write_parts(GdiFont& font, const TextContext& context, int x, int y, int baseline,
-                 std::vector<Part> parts, std::uint32_t color) {
+                 const std::vector<Part>& parts, std::uint32_t color) {
     for (const Part& part : parts) {
         if (part.font)
-            context.write(x, baseline, part);
+            context.write(x, baseline, part, steps_of(part));
         else
             run_write(font.boxes, x, y, std::wstring(part.text, part.length).c_str(), pixel_of(color));
         x += part_width(font, part);
@@ -176,30 +182,27 @@ namespace system_text {
 
 int height(HFONT font) { return known_font(font).boxes.height; }
 
-int width(HFONT handle, const wchar_t* text) {
-    GdiFont& font = known_font(handle);
-    return measure(font, cleaned(font, text)).width;
-}
+int width(HFONT font, const wchar_t* text) { return measure(known_font(font), text).width; }
 
 int write(HFONT handle, int x, int y, const wchar_t* text, std::uint32_t color) {
     GdiFont& font = known_font(handle);
-    const std::wstring clean = cleaned(font, text);
-    const Measured measured = measure(font, clean);
+    const Measured& measured = measure(font, text);
+    const std::wstring& clean = measured.clean;
     const Bracket* const target = bracket();
     if (!target) return measured.width;
-    const bool right_to_left = is_right_to_left(clean);
-    const TextContext context(target->dc, color & 0xFFFFFF, right_to_left);
+    const TextContext context(target->dc, color & 0xFFFFFF, measured.right_to_left);
     const int left = limit(x), bottom = limit(y);
     const int height = font.boxes.height;
     const int baseline = flip(target->canvas, bottom) - (height - 1) + font.boxes.ascent;
     // Letters may reach out of their line and beyond its ends.
     changed({left - height, baseline - 2 * height, left + measured.width + height, baseline + height});
     if (measured.is_plain) {
-        context.write(left, baseline, {clean.c_str(), static_cast<int>(clean.size()), font.own});
+        context.write(left, baseline, {clean.c_str(), static_cast<int>(clean.size()), font.own},
+                      measured.steps);
     } else {
         std::vector<Part> parts = parts_of(font, clean.c_str());
-        if (right_to_left) std::reverse(parts.begin(), parts.end());
-        write_parts(font, context, left, bottom, baseline, std::move(parts), color);
+        if (measured.right_to_left) std::reverse(parts.begin(), parts.end());
+        write_parts(font, context, left, bottom, baseline, parts, color);
     }
     return measured.width;
 }
