@@ -126,6 +126,20 @@ TEST(Copy, WholeRowsOfOneCanvas) {
     }
 }
 
+// Rows without gaps on one side only.
+TEST(Copy, RowsWithGaps) {
+    const std::vector<std::uint32_t> pixels = numbered(13 * 4);
+    for (const int gap : {0, 1}) {
+        std::vector<std::uint32_t> result(static_cast<std::size_t>((12 + gap) * 4), 7);
+        const raster::Image source{pixels.data(), 12, 4, 13 - gap};
+        raster::copy({result.data(), 12, 4, 12 + gap}, {0, 0, 12, 4}, {0, 0}, source, {0, 0}, 12, 4);
+        for (int y = 0; y < 4; ++y)
+            for (int x = 0; x < 12 + gap; ++x)
+                ASSERT_EQ(result[static_cast<std::size_t>(y * (12 + gap) + x)],
+                          x < 12 ? pixels[static_cast<std::size_t>(y * (13 - gap) + x)] : 7);
+    }
+}
+
 TEST(Blend, EveryMix) {
     std::vector<std::uint32_t> source(256 * 256);
     for (std::uint32_t i = 0; i < 256 * 256; ++i) {
@@ -246,6 +260,16 @@ TEST(Ink, PaintsWhatTheMaskDoes) {
                 ASSERT_EQ(inked.pixel(x, y), masked.pixel(x, y))
                     << width << " by " << height << " to " << to.x << "," << to.y << " at " << x << "," << y;
     }
+}
+
+// In the last corner of a canvas without anything behind it.
+TEST(Ink, StaysOnTheCanvas) {
+    const std::uint8_t coverage[] = {255, 0, 255};
+    std::vector<std::uint32_t> pixels(20 * 2, 1);
+    const raster::Ink ink = raster::make_ink(coverage, 3, 1, 3);
+    raster::paint_ink({pixels.data(), 20, 2, 20}, {0, 0, 20, 2}, {17, 1}, ink, 2);
+    const std::vector<std::uint32_t> corner(pixels.end() - 4, pixels.end());
+    EXPECT_EQ(corner, (std::vector<std::uint32_t>{1, 2, 1, 2}));
 }
 
 TEST(Images, NullSources) {
