@@ -13,6 +13,9 @@ namespace brask {
 
 // The entries of an item control: a malloc'ed array of pointers to items from new, ended by a null entry.
 
+// The flags of a control that pass to its items.
+inline constexpr DWORD LIST_ITEM_MASK = 0xF127750;
+
 // Entries up to the null entry, and in the second form up to `limit`, whichever comes first.
 template <typename Item>
 int item_count(Item* const* items) {
