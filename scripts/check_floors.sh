@@ -69,7 +69,9 @@ while read -r file; do
         while read -r line; do echo "$file:$line: asks which system it runs on"; done | grep . && bad=1 ;;
     esac
     if [ -n "$bad" ]; then failed=$((failed + 1)); else passed=$((passed + 1)); fi
-done < <(git ls-files text raster platform fenn include foundation controls items color console browser popup examples |
+done < <(git -c safe.directory="$PWD" ls-files text raster platform fenn include foundation controls items color console browser popup examples |
     grep -E '\.(h|cpp)$')
+# A tree that belongs to somebody else, or is none of git's, must not pass unread.
+[ $passed -gt 0 ] || failed=$((failed + 1))
 echo "$passed passed, $failed failed"
 [ $failed = 0 ]

@@ -9,6 +9,7 @@ while read -r file; do
         echo "not formatted: $file"
         failed=$((failed + 1))
     fi
-done < <(git ls-files '*.h' '*.cpp')
+done < <(git -c safe.directory="$PWD" ls-files '*.h' '*.cpp')
+[ $passed -gt 0 ] || failed=$((failed + 1)) # no file was read at all
 echo "$passed passed, $failed failed"
 [ $failed = 0 ]
