@@ -14,7 +14,7 @@ namespace {
 class NoFonts : public testing::Environment {
   public:
     void SetUp() override {
-        path = "/tmp/no-fonts-" + std::to_string(getpid()) + ".conf";
+        path = testing::TempDir() + "no-fonts-" + std::to_string(getpid()) + ".conf";
         std::FILE* const file = std::fopen(path.c_str(), "w");
         ASSERT_TRUE(file);
         std::fputs("<?xml version=\"1.0\"?><fontconfig></fontconfig>", file);
