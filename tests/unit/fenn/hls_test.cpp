@@ -1,3 +1,6 @@
+#include <limits>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include <brask/fenn.h>
@@ -58,17 +61,63 @@ TEST(Hls, LightnessAndSaturationBetweenTheEnds) {
     expect_near(to_rgb(0, 0.25f, 1), 0.5f, 0, 0);
 }
 
+// Every colour of three bytes, as `component` makes one of a byte, there and back; `byte` is the way back.
+// Gives the colours that came back as others.
+template <typename Component, typename Byte, typename Check>
+std::vector<unsigned> strays(Component component, Byte byte, Check check) {
+    std::vector<unsigned> found;
+    for (unsigned word = 0; word < 1u << 24; word++) {
+        const Color hls =
+            to_hls(component(word >> 16 & 255), component(word >> 8 & 255), component(word & 255));
+        check(hls);
+        const Color rgb = to_rgb(hls.a, hls.b, hls.c);
+        if ((byte(rgb.a) << 16 | byte(rgb.b) << 8 | byte(rgb.c)) != word) found.push_back(word);
+    }
+    return found;
+}
+
 TEST(Hls, ThereAndBackGivesTheSameByte) {
-    for (int r = 0; r < 256; r += 5)
-        for (int g = 0; g < 256; g += 3)
-            for (int b = 0; b < 256; b += 5) {
-                const Color hls = to_hls(r / 255.0f, g / 255.0f, b / 255.0f);
-                ASSERT_TRUE(hls.a >= 0 && hls.a <= 1 && hls.b >= 0 && hls.b <= 1 && hls.c >= 0 && hls.c <= 1);
-                const Color rgb = to_rgb(hls.a, hls.b, hls.c);
-                ASSERT_EQ(static_cast<int>(rgb.a * 255 + 0.5f), r);
-                ASSERT_EQ(static_cast<int>(rgb.b * 255 + 0.5f), g);
-                ASSERT_EQ(static_cast<int>(rgb.c * 255 + 0.5f), b);
+    bool inside = true;
+    const auto found = strays([](unsigned byte) { return static_cast<float>(byte) / 255.0f; },
+                              [](float part) { return static_cast<unsigned>(part * 255 + 0.5f); },
+                              [&inside](const Color& hls) {
+                                  for (float part : {hls.a, hls.b, hls.c})
+                                      inside = inside && part >= 0 && part <= 1;
+                              });
+    EXPECT_TRUE(inside);
+    EXPECT_EQ(found, std::vector<unsigned>());
+}
+
+TEST(Hls, TheMiddleOfEachByteComesBackButForNearlyWhite) {
+    const auto found =
+        strays([](unsigned byte) { return (static_cast<float>(byte) + 0.5f) / 255.0f; },
+               [](float part) { return static_cast<unsigned>(part * 255); }, [](const Color&) {});
+    // Those that leave no room for a saturation become white.
+    const std::vector<unsigned> nearly_white = {0xFEFEFF, 0xFEFFFE, 0xFEFFFF, 0xFFFEFE, 0xFFFEFF, 0xFFFFFE};
+    EXPECT_EQ(found, nearly_white);
+}
+
+TEST(Hls, ResultsAreHeldBetween0And1) {
+    const float parts[] = {-2,
+                           0,
+                           0.5f,
+                           1.00196f,
+                           1.5f,
+                           100,
+                           std::numeric_limits<float>::infinity(),
+                           std::numeric_limits<float>::quiet_NaN()};
+    for (float h : parts)
+        for (float l : parts)
+            for (float s : parts) {
+                const Color rgb = to_rgb(h, l, s);
+                for (float part : {rgb.a, rgb.b, rgb.c})
+                    ASSERT_TRUE(part >= 0 && part <= 1) << h << ' ' << l << ' ' << s;
             }
+}
+
+TEST(Hls, NoRoomForASaturationMakesItFull) {
+    EXPECT_EQ(to_hls(1.00196f, 0.999f, 1.00196f).c, 1);
+    EXPECT_EQ(to_hls(0.5f, -0.5f, 0).c, 1);
 }
 
 TEST(Hls, ResultsMayBeLeftOut) {
