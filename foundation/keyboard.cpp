@@ -9,8 +9,7 @@ using Key = unsigned long long; // a virtual key or a character as the message c
 
 constexpr unsigned REPORT_KEYS = 0x90000027;
 
-// --- What the tables say of a key
-// ---------------------------------------------------------------------------
+// --- What the tables say of a key ----------------------------------------------------------------------
 
 // Keys `first` to `last` give `code` and what follows it.
 struct Row {
@@ -80,8 +79,7 @@ const Row* find(const Row (&rows)[COUNT], Key key, bool ctrl = true) {
 
 int code_of(const Row* row, Key key) { return row ? row->code + static_cast<int>(key - row->first) : 0; }
 
-// --- Modifiers
-// --------------------------------------------------------------------------------------------------
+// --- Modifiers -----------------------------------------------------------------------------------------
 
 bool shift_down() { return getkey(VK_SHIFT) != 0; }
 bool ctrl_down() { return getkey(VK_CONTROL) != 0; }
@@ -93,8 +91,7 @@ int add(int bits, Key key) {
     return static_cast<int>(static_cast<unsigned>(bits) + static_cast<unsigned>(key));
 }
 
-// --- One message
-// -------------------------------------------------------------------------------------------------
+// --- One message ---------------------------------------------------------------------------------------
 
 struct Message {
     HWND wnd;
@@ -202,8 +199,7 @@ int Parse_Keyboard(HWND wnd, unsigned int message, unsigned long long wParam, lo
     return answer.key;
 }
 
-// --- Dialogs
-// ---------------------------------------------------------------------------------------------------------
+// --- Dialogs -------------------------------------------------------------------------------------------
 
 namespace {
 

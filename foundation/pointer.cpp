@@ -28,8 +28,7 @@ void BUTTON_PRESS(int button) { Button_Mask |= bit_of(button); }
 void BUTTON_RELEASE(int button) { Button_Mask &= ~bit_of(button); }
 void STATE_MASK(int mask) { Button_Mask = mask; }
 
-// --- What is held now
-// ---------------------------------------------------------------------------------------
+// --- What is held now ----------------------------------------------------------------------------------
 
 int getbutton(int vk) {
     if (vk != VK_LBUTTON && vk != VK_RBUTTON && vk != VK_MBUTTON) return 0;
@@ -60,8 +59,7 @@ int getkey(int key) {
     return 0;
 }
 
-// --- Shape
-// ----------------------------------------------------------------------------------------------------
+// --- Shape ---------------------------------------------------------------------------------------------
 //
 //   from                  operation          to
 //   Wait 0, Shape s       Set_Curs*          Wait 0, Shape s'     the new shape is shown

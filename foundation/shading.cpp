@@ -79,8 +79,7 @@ bool wide_registers() { return false; }
 void shade_eights(DWORD*, const float*, float, int, DWORD) {}
 #endif
 
-// --- Any processor
-// ------------------------------------------------------------------------------------------
+// --- Any processor -------------------------------------------------------------------------------------
 
 // One stretch of a row: the shade of each pixel is its column's share and the row's, cut toward zero.
 void shade_stretch(DWORD* row, const float* across, float down, int count, const Shades& shades) {
