@@ -24,6 +24,15 @@ static Uint32 creation_flags(const Window& window) {
     return flags;
 }
 
+// The desktop centres a window that may stand anywhere; of one larger than the screen the corner stays in
+// view.
+static void choose_position(const SdlLibrary& sdl, Window& window, SDL_Window* made) {
+    int x = 0, y = 0;
+    sdl.SDL_GetWindowPosition(made, &x, &y);
+    window.origin = {std::max(x, 0), std::max(y, 0)};
+    if (x < 0 || y < 0) sdl.SDL_SetWindowPosition(made, window.origin.x, window.origin.y);
+}
+
 static bool create(const SdlLibrary& sdl, HWND wnd, Window& window) {
     const int x = window.placed ? window.origin.x : static_cast<int>(SDL_WINDOWPOS_UNDEFINED);
     const int y = window.placed ? window.origin.y : static_cast<int>(SDL_WINDOWPOS_UNDEFINED);
@@ -34,6 +43,7 @@ static bool create(const SdlLibrary& sdl, HWND wnd, Window& window) {
     if (!made) return false;
     sdl.SDL_SetWindowData(made, kHandleName, wnd);
     window.desktop = made;
+    if (!window.placed) choose_position(sdl, window, made);
     return true;
 }
 

@@ -17,6 +17,7 @@ namespace platform {
     X(SDL_GetTicks)                                                                                          \
     X(SDL_GetWindowFromID)                                                                                   \
     X(SDL_GetWindowData)                                                                                     \
+    X(SDL_GetWindowPosition)                                                                                 \
     X(SDL_GetWindowSurface)                                                                                  \
     X(SDL_GetWindowWMInfo)                                                                                   \
     X(SDL_HideWindow)                                                                                        \

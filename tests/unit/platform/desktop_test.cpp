@@ -195,6 +195,23 @@ TEST_F(Desktop, TheHostPlacesNamesAndHidesItsWindow) {
     EXPECT_TRUE(SDL_GetWindowFlags(shown()) & SDL_WINDOW_SHOWN);
 }
 
+TEST_F(Desktop, AWindowWithoutAPlaceKnowsWhereTheDesktopPutIt) {
+    for (const int size : {200, 5000}) { // the second is larger than the screen
+        const HWND wnd = CreateWindowW(L"Host", L"", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT, 0, size, size,
+                                       nullptr, nullptr, nullptr, nullptr);
+        ShowWindow(wnd, SW_SHOW);
+        int x = 0, y = 0;
+        SDL_GetWindowPosition(static_cast<SDL_Window*>(platform::find_window(wnd)->desktop), &x, &y);
+        POINT origin = {0, 0};
+        ClientToScreen(wnd, &origin);
+        EXPECT_TRUE(origin.x == x && origin.y == y) << x << ' ' << y;
+        EXPECT_EQ(x > 0, size == 200);
+        EXPECT_GE(x, 0);
+        EXPECT_GE(y, 0);
+        DestroyWindow(wnd);
+    }
+}
+
 TEST_F(Desktop, TheHostBoundsTheSizeOfItsWindow) {
     Host bounded;
     bounded.answer = [](UINT message, WPARAM, LPARAM lparam, LRESULT* result) {
