@@ -54,6 +54,8 @@ class Page {
     virtual void draw() = 0;
     // Follows one mouse message. The drawing layer knows its position already.
     virtual void pointer(int word) = 0;
+    // The wheel was turned, positive away from the user.
+    virtual void wheel(int notches) { (void)notches; }
     virtual void each(const Visitor& visit) const = 0;
 };
 

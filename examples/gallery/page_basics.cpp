@@ -8,44 +8,27 @@
 
 #include "basics_samples.h"
 #include "page.h"
+#include "panel.h"
 
 namespace {
-
-constexpr int margin = 8, heading = 30;
-
-// A titled panel that stays as it is under the pointer. What is inside is the area that it leaves free.
-void set_panel(Boxs& panel, const wchar_t* title) {
-    panel.Flag = OUTIL_DISABLE | OUTIL_FLAT | BOX_RAISED;
-    panel.Font_Weight = "bold";
-    panel.Name_Set(L"%ls", title);
-}
-
-Area place_panel(Boxs& panel, HWND wnd, const Area& area) {
-    area.give(panel);
-    panel.Init(wnd);
-    Area inner = area.inset(margin);
-    inner.cut_top(heading - margin);
-    return inner;
-}
 
 // --- Boxes ---------------------------------------------------------------------------------------------
 
 class BoxSection {
   public:
     BoxSection() : looks(box_samples().count), places(place_samples().count) {
-        set_panel(panel, L"Boxes");
         fill(looks, box_samples());
         fill(places, place_samples());
     }
     void layout(HWND wnd, const Area& area) {
-        Area inner = place_panel(panel, wnd, area);
+        Area inner = panel.place(wnd, area);
         Area upper = inner.cut_top(inner.height * 55 / 100);
         inner.cut_top(SPACE);
         grid(looks, wnd, upper);
         grid(places, wnd, inner);
     }
     void draw() {
-        panel.Draw();
+        panel.draw();
         for (Boxs& box : looks)
             box.Draw();
         for (Boxs& box : places)
@@ -56,7 +39,7 @@ class BoxSection {
         follow(places, word);
     }
     void each(const Visitor& visit) const {
-        visit("panel", panel);
+        panel.each(visit);
         for (const Boxs& box : looks)
             visit("box", box);
         for (const Boxs& box : places)
@@ -86,7 +69,7 @@ class BoxSection {
             box.Select(word);
     }
 
-    Boxs panel;
+    Panel panel{L"Boxes"};
     std::vector<Boxs> looks, places;
 };
 
@@ -97,7 +80,6 @@ class LabelSection {
     LabelSection()
         : aligned(align_samples().count), stacked(stack_samples().count), captions(line_samples().count),
           lines(line_samples().count), frames(aligned.size() + stacked.size()) {
-        set_panel(panel, L"Labels");
         for (Boxs& frame : frames)
             frame.Flag = OUTIL_EMPTY;
         fill(aligned, align_samples());
@@ -111,7 +93,7 @@ class LabelSection {
         }
     }
     void layout(HWND wnd, const Area& area) {
-        Area inner = place_panel(panel, wnd, area);
+        Area inner = panel.place(wnd, area);
         Area upper = inner.cut_top(inner.height / 4);
         inner.cut_top(SPACE);
         Area left = upper.cut_left(upper.width * 3 / 4);
@@ -129,7 +111,7 @@ class LabelSection {
         }
     }
     void draw() {
-        panel.Draw();
+        panel.draw();
         for (Boxs& frame : frames)
             frame.Draw();
         for (std::vector<Labels>* labels : {&aligned, &stacked, &captions, &lines})
@@ -137,7 +119,7 @@ class LabelSection {
                 label.Draw();
     }
     void each(const Visitor& visit) const {
-        visit("panel", panel);
+        panel.each(visit);
         for (const std::vector<Labels>* labels : {&aligned, &stacked, &captions, &lines})
             for (const Labels& label : *labels)
                 visit("label", label);
@@ -164,7 +146,7 @@ class LabelSection {
         label.Init(wnd);
     }
 
-    Boxs panel;
+    Panel panel{L"Labels"};
     std::vector<Labels> aligned, stacked, captions, lines;
     std::vector<Boxs> frames;
 };
@@ -190,7 +172,6 @@ void paint_scene(DWORD* pixels, int width, int height, const Scene& scene) {
 class ButtonSection {
   public:
     ButtonSection() : buttons(button_samples().count) {
-        set_panel(panel, L"Buttons");
         for (int i = 0; i < int(buttons.size()); i++) {
             const ButtonSample& sample = button_samples()[i];
             buttons[i].Flag = sample.flag;
@@ -202,7 +183,7 @@ class ButtonSection {
         }
     }
     void layout(HWND wnd, const Area& area) {
-        Area inner = place_panel(panel, wnd, area);
+        Area inner = panel.place(wnd, area);
         int count = int(buttons.size()), rows = (count + columns - 1) / columns;
         for (int i = 0; i < count; i++) {
             inner.cell(i % columns, columns, i / columns, rows).give(buttons[i]);
@@ -211,7 +192,7 @@ class ButtonSection {
         }
     }
     void draw() {
-        panel.Draw();
+        panel.draw();
         for (Buttons& button : buttons)
             button.Draw();
     }
@@ -226,7 +207,7 @@ class ButtonSection {
         }
     }
     void each(const Visitor& visit) const {
-        visit("panel", panel);
+        panel.each(visit);
         for (const Buttons& button : buttons)
             visit("button", button);
     }
@@ -256,7 +237,7 @@ class ButtonSection {
             paint_scene(button.Graph_Select, button.Dim_X, button.Dim_Y, evening);
     }
 
-    Boxs panel;
+    Panel panel{L"Buttons"};
     std::vector<Buttons> buttons;
     int held = -1; // the momentary button that is down
 };

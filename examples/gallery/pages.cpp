@@ -3,9 +3,13 @@
 #include "page.h"
 
 std::unique_ptr<Page> make_page_basics();
+std::unique_ptr<Page> make_page_values();
+std::unique_ptr<Page> make_page_colour();
 
 const PageEntry pages[] = {
     {"Basics", make_page_basics},
+    {"Values", make_page_values},
+    {"Colour", make_page_colour},
 };
 const std::size_t page_count = sizeof pages / sizeof pages[0];
 

@@ -7,6 +7,7 @@
 namespace {
 
 const wchar_t class_name[] = L"brask gallery";
+constexpr int tab_height = 28, notch = 120;
 Gallery* current; // the one whose messages arrive
 
 void register_class(WNDPROC procedure) {
@@ -39,8 +40,12 @@ void set_pointer(HWND wnd, int x, int y) {
 
 } // namespace
 
-Gallery::Gallery(const PageEntry& entry, int width, int height, bool shown) : page(entry.make()) {
+Gallery::Gallery(const PageEntry& entry, int width, int height, bool shown) : made(page_count) {
     current = this;
+    tabs.Grow(int(page_count), 0);
+    for (std::size_t i = 0; i < page_count; i++)
+        tabs.Item[i]->Name_Set(pages[i].name);
+    tabs.Cur_Value = int(&entry - pages);
     register_class(procedure);
     ground.Flag = OUTIL_EMPTY;
     DWORD style = shown ? WS_OVERLAPPEDWINDOW : WS_POPUP;
@@ -67,16 +72,31 @@ void Gallery::layout() {
     area.give(ground);
     ground.Init(wnd);
     strip.layout(wnd, area.cut_bottom(Strip::height));
+    tabs.Page_Dim = area.height;
+    area.cut_top(tab_height).give(tabs);
+    tabs.Init(wnd);
+    show_page(area);
+}
+
+// Makes the page on top if it was never shown, and lays it out in what the tabs leave.
+void Gallery::show_page(const Area& area) {
+    std::unique_ptr<Page>& top = made[std::size_t(tabs.Cur_Value)];
+    if (!top) top = pages[tabs.Cur_Value].make();
+    page = top.get();
     page->layout(wnd, area);
 }
 
 void Gallery::draw() {
     ground.Clear();
+    tabs.Page(0);
+    tabs.Draw();
     page->draw();
     strip.draw();
 }
 
 void Gallery::each(const Visitor& visit) const {
+    for (int i = 0; i < tabs.NbItem; i++)
+        visit("tab", *tabs.Item[i]);
     page->each(visit);
     strip.each(visit);
 }
@@ -107,7 +127,25 @@ void Gallery::mouse(UINT message, LPARAM position) {
     }
     strip.pointer(word);
     page->pointer(word);
+    choose_page(word);
     strip.show_event(word);
+}
+
+// A press on a tab brings its page to the top.
+void Gallery::choose_page(int word) {
+    if (!tabs.Select(word) || (word & 15) != 2) return;
+    int pressed = tabs.Read();
+    if (pressed < 0 || pressed == tabs.Cur_Value) return;
+    tabs.Cur_Value = pressed;
+    layout();
+    draw();
+}
+
+// The system gives the wheel in parts of a notch.
+void Gallery::wheel(WPARAM amount) {
+    turned += short(HIWORD(amount));
+    page->wheel(turned / notch);
+    turned %= notch;
 }
 
 void Gallery::leave() {
@@ -115,6 +153,7 @@ void Gallery::leave() {
     set_pointer(wnd, -1, -1);
     strip.pointer(0);
     page->pointer(0);
+    tabs.Select(0);
 }
 
 void Gallery::key(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -140,6 +179,7 @@ LRESULT Gallery::handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_MBUTTONUP:
     case WM_RBUTTONUP:
     case WM_MOUSEMOVE: mouse(message, lparam); return 0;
+    case WM_MOUSEWHEEL: wheel(wparam); return 0;
     case WM_MOUSELEAVE: leave(); return 0;
     case WM_SETCURSOR:
         if (LOWORD(lparam) != HTCLIENT) break;

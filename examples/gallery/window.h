@@ -2,13 +2,15 @@
 #define GALLERY_WINDOW_H
 
 #include <memory>
+#include <vector>
 
 #include <brask/boxs.h>
+#include <brask/tabs.h>
 
 #include "page.h"
 #include "strip.h"
 
-// The gallery's window: it owns a page and the strip, and routes the messages to them.
+// The gallery's window: it owns the pages behind their tabs and the strip, and routes the messages to them.
 class Gallery {
   public:
     // `shown` opens a window on the desktop; without it the window is memory and needs no display.
@@ -30,12 +32,18 @@ class Gallery {
     void paint();
     void mouse(UINT message, LPARAM position);
     void leave();
+    void wheel(WPARAM amount);
+    void choose_page(int word);
+    void show_page(const Area& area);
     void key(UINT message, WPARAM wparam, LPARAM lparam);
 
     HWND wnd = nullptr;
     Boxs ground; // clears what no control covers
-    std::unique_ptr<Page> page;
+    Tabs tabs;
+    std::vector<std::unique_ptr<Page>> made; // a page is made when it is first shown
+    Page* page = nullptr;                    // the one on top
     Strip strip;
+    int turned = 0;       // what the wheel was turned short of a whole notch
     bool watched = false; // the system was asked to tell when the pointer leaves
 };
 

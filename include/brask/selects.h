@@ -18,11 +18,11 @@ class BRASK_API Selects : public Tools {
     int Value_Dim;  // width of the value zone with its arrows, pixels; 0: what the name leaves
     Buttons** Item; // NbItem choices, then a null entry; owned. Items come from new, the array from malloc.
                     // An item's name is the choice's text
-    int NbItem;    // entries in Item, counted by Grow and Init
-    int select;    // tracking: 0 none, 1 pointer inside, 2 pointer outside; kept by the control
-    int Old_Value; // Cur_Value at the last repaint; kept by the control
-    Boxs Box;      // frame and faces; laid out by Init
-    Boxs Zone;     // rectangle of the value zone, made by Init: position, size and clip alone
+    int NbItem;     // entries in Item, counted by Grow and Init
+    int select;     // tracking: 0 none, 1 pointer inside, 2 pointer outside; kept by the control
+    int Old_Value;  // Cur_Value at the last repaint; kept by the control
+    Boxs Box;       // frame and faces; laid out by Init
+    Boxs Zone;      // rectangle of the value zone, made by Init: position, size and clip alone
 
     Selects();
     // A copy shares Item with its source, as all pointers: the host sees to the lifetimes.
