@@ -34,14 +34,16 @@ struct IGB_data {
 struct Dir_Ulmen {
     DWORD Type;
     unsigned char No_Access; // not 0: the folder cannot be entered
-    wchar_t* Name;
+    wchar_t* Name;           // the list's, until Scan_Free
 };
 
 // --- Bracket: every drawing call lies between setup and release; brackets are never nested ---
-FENN_API void Zeb_setup(HWND wnd, const char* tag); // no clip at the start; a null window paints nothing
+// Makes the window the target, without a clip and with the pen at 0, 0. A null window paints nothing. `tag`
+// is the caller's name, for diagnostics; may be null.
+FENN_API void Zeb_setup(HWND wnd, const char* tag);
 FENN_API void Zeb_release();
 FENN_API int Zeb_test();                           // not 0 inside a bracket
-FENN_API HDC Zeb_GetDC(HWND wnd, const char* tag); // for measuring, apart from the bracket
+FENN_API HDC Zeb_GetDC(HWND wnd, const char* tag); // for measuring, apart from the bracket; give it back
 FENN_API void Zeb_ReleaseDC(HWND wnd, HDC dc);
 
 // --- State ---
@@ -52,7 +54,8 @@ FENN_API void Zeb_reset_clip();
 
 // --- Shapes ---
 FENN_API void move2s(unsigned int x, unsigned int y);           // a wrapped value means the negative one
-FENN_API void draw2s(unsigned int x, unsigned int y, int mode); // the end point is not painted
+FENN_API void draw2s(unsigned int x, unsigned int y, int mode); // a line from the pen, which ends there: its
+                                                                // end point is not painted; mode is 0
 FENN_API void draw_rectangle(int left, int top, int right, int bottom);      // outline on those coordinates
 FENN_API void draw_fill_rectangle(int left, int top, int right, int bottom); // columns left to right - 1,
                                                                              // rows bottom + 1 to top
@@ -65,43 +68,51 @@ FENN_API void draw_fill_polygon(int count, const int* xs, const int* ys);
 FENN_API void draw_image(const char* pixels, int x, int y, int source_x, int source_y, int width, int height,
                          int image_width, int image_height, unsigned int background);
 
-// --- Text; a null font means arial 12 ---
-FENN_API void Zeb_Font_Color(unsigned long text, unsigned long back);
-FENN_API int Zeb_Font_Size_Height(HFONT font);                      // line height, pixels
-FENN_API int Zeb_Font_Size_String(HFONT font, const wchar_t* text); // width, pixels
+// --- Text, inside a bracket; a null font means arial 12 ---
+FENN_API void Zeb_Font_Color(unsigned long text, unsigned long back); // of the writes that follow; back is 0
+FENN_API int Zeb_Font_Size_Height(HFONT font);                        // line height, pixels
+FENN_API int Zeb_Font_Size_String(HFONT font, const wchar_t* text);   // width, pixels
 FENN_API int Zeb_Font_Size_String(HFONT font, const char* text);
 FENN_API int Zeb_Font_Write(HFONT font, int x, int y, const wchar_t* text); // lower left corner; gives the
                                                                             // width written
 
 // --- Pointer ---
-// The pointer of the bracket's window: what set_curs last gave for it, or the platform's until then.
+// Both inside a bracket, for its window. What set_curs last gave for it, or the platform's pointer until
+// then; -1, -1 without a window. Each argument may be null.
 FENN_API POINT read_curs(int* x, int* y);
 FENN_API POINT read_curs(unsigned short* x, unsigned short* y);
-FENN_API void set_curs(int x, int y); // client coordinates, Y downward, as a message gives them
+// Client coordinates, Y downward, as a message gives them. Outside of a bracket it does nothing.
+FENN_API void set_curs(int x, int y);
 
 // --- Reports: printf style, %ls wide and %hs narrow in both. Work before main, and with a null window ---
+// The result is not 0 when somebody heard it.
 FENN_API int Error_Fct(HWND wnd, unsigned int code, const char* format, ...);
 FENN_API int Error_Fct(HWND wnd, unsigned int code, const wchar_t* format, ...);
 FENN_API wchar_t* Error_Perror(int number); // the system's text for an errno value
 
 // --- Strings and paths. A converted string belongs to the layer until the next call ---
 FENN_API wchar_t* Char_2_Wchar(const char* text); // UTF-8; a stray byte becomes U+0080 to U+00FF
-FENN_API char* Wchar_2_Char(const wchar_t* text);
-FENN_API wchar_t* Str_To_Lower(wchar_t* text); // in place
-FENN_API int Path_To_Abs(wchar_t* path);       // in place, in a buffer of 2048
+FENN_API char* Wchar_2_Char(const wchar_t* text); // to UTF-8
+FENN_API wchar_t* Str_To_Lower(wchar_t* text);    // in place; gives its argument
+// Rewrites a path to an absolute one, in place, in a buffer of 2048 characters; 0, and the path as it was,
+// when the result does not fit.
+FENN_API int Path_To_Abs(wchar_t* path);
 // Splits a path; each output may be null, else has room for 771 characters: folder with its separator, file
 // name, file name without its ending.
 FENN_API void Get_Generic_Name(char* path, char* folder, char* file, char* bare);
 
-// --- Colour conversion, channels 0..1 ---
+// --- Colour conversion ---
+// Everything 0..1, the hue from red over green (1/3) and blue (2/3) back to red. Each output may be null.
 FENN_API void RGB_to_HLS(float r, float g, float b, float* h, float* l, float* s);
 FENN_API void HLS_to_RGB(float h, float l, float s, float* r, float* g, float* b);
 
 // --- Files ---
-FENN_API int IGB_Read_Image(const wchar_t* file, IGB_data* image, void* unused); // 0: failed, errno is set
+// .rgb and .tga pictures into `image`; 0 when it failed, and errno is set. `unused` is null.
+FENN_API int IGB_Read_Image(const wchar_t* file, IGB_data* image, void* unused);
 FENN_API int TGA_Read_Image(const wchar_t* file, IGB_data* image, void* unused);
 FENN_API void IGB_Free(IGB_data* image);
-FENN_API Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count); // null: failed
+// Lists a folder; count gets the number of entries. Null when it failed; free the list with Scan_Free.
+FENN_API Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count);
 FENN_API void Scan_Free(Dir_Ulmen* list);
 FENN_API int Is_Tree(const wchar_t* path); // not 0: the folder has sub-folders
 
