@@ -21,7 +21,8 @@ struct State {
     Bracket bracket;
     Window* window; // null: nothing to paint on
     bool open;
-    bool used; // the context may have been drawn on
+    bool used;    // something was painted
+    bool pointed; // the pointer was asked for or set: a bracket for that alone paints nothing
     raster::Rect changed;
     POINT pen; // contract coordinates
 };
@@ -92,7 +93,7 @@ using namespace fenn;
 FENN_API void Zeb_setup(HWND wnd, const char*) {
     if (state.open) Zeb_release();
     state.open = true;
-    state.used = false;
+    state.used = state.pointed = false;
     state.changed = nothing;
     state.pen = {0, 0};
     state.window = find_window(wnd);
@@ -108,7 +109,8 @@ FENN_API void Zeb_release() {
     if (!state.window) return;
     Window& window = *state.window;
     if (is_clipped()) clip_context(window, nullptr);
-    add(detach_context(window, state.used), whole(window.canvas));
+    // Drawing on the context itself is not seen here: only brackets for the pointer alone are spared.
+    add(detach_context(window, state.used || !state.pointed), whole(window.canvas));
     if (!is_empty(state.changed)) show_window(window, state.changed);
     leave_window(window);
 }
@@ -138,6 +140,7 @@ FENN_API void Zeb_reset_clip() {
 }
 
 FENN_API POINT read_curs(int* x, int* y) {
+    state.pointed = true;
     // Without a window the pointer is on nothing.
     POINT point{-1, -1};
     if (state.window) {
@@ -159,6 +162,7 @@ FENN_API POINT read_curs(unsigned short* x, unsigned short* y) {
 
 FENN_API void set_curs(int x, int y) {
     if (!state.window) return;
+    state.pointed = true;
     state.window->placed = true;
     state.window->pointer = {signed_word(x), signed_word(y)};
 }
