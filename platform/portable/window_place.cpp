@@ -33,7 +33,6 @@ static void resize_buffer(Window& window) {
     const raster::Canvas old = window.canvas;
     const std::unique_ptr<std::uint32_t, Free> old_pixels = std::move(window.pixels);
     window.canvas = {};
-    window.damage = {};
     if (!make_buffer(window)) return;
     const int width = std::min(old.width, window.canvas.width);
     const int height = std::min(old.height, window.canvas.height);

@@ -96,7 +96,7 @@ TEST(KeyState, GoesAllAtOnceToAndFromAnArray) {
     EXPECT_EQ(keys[VK_MENU], 0x81);
     EXPECT_EQ(keys[VK_LMENU], 0x81);
     EXPECT_EQ(keys[VK_SHIFT], 0);
-    keys['Q'] = 0x80;
+    keys[static_cast<int>('Q')] = 0x80;
     keys[VK_LMENU] = 0;
     EXPECT_TRUE(SetKeyboardState(keys));
     EXPECT_EQ(state('Q'), 0xFF80);

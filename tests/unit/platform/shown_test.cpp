@@ -159,4 +159,6 @@ TEST(Shown, AHostMayChooseAnotherWindowWhileItIsDeactivated) {
     ShowWindow(second.wnd, SW_SHOW);
     EXPECT_EQ(GetActiveWindow(), third.wnd);
     EXPECT_EQ(GetFocus(), third.wnd);
+    for (const Heard& heard : second.run(WM_ACTIVATE, WM_ACTIVATE))
+        EXPECT_EQ(heard.wparam, static_cast<WPARAM>(WA_INACTIVE));
 }
