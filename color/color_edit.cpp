@@ -54,16 +54,11 @@ DWORD word_of(const Color_Edit& editor, const Components& color) {
     return hls(editor) ? word_of_hls(color) : word_of_rgb(color);
 }
 
-void lend_whole_font(const Color_Edit& editor, Tools& part) {
-    lend_font(editor, part);
-    part.Font_Slant = editor.Font_Slant;
-}
-
 // --- Placing ---
 
 // What is left for bars and swatch beside the frame, its title and the button; the width is that of the bars.
 Place inside_of(const Color_Edit& editor, int font_height) {
-    const Px b = editor_bevel(editor), x = editor.Pos_X, y = editor.Pos_Y;
+    const Px b = bevel_size(editor), x = editor.Pos_X, y = editor.Pos_Y;
     const Px dx = editor.Dim_X, dy = editor.Dim_Y;
     const Px button = editor.Flag & COLOR_MODE_BUTTON ? Px(SPACE) - BUT_DIM - GAP : Px(0);
     if (editor.Border <= 0) return {x, y, dx - 2 * Px(BUT_DIM) - GAP + button, dy};
@@ -81,7 +76,7 @@ void place_frame(Color_Edit& editor, HWND wnd) {
     lend_color(editor, frame);
     lend_whole_font(editor, frame);
     put(frame, {editor.Pos_X, editor.Pos_Y, editor.Dim_X, editor.Dim_Y});
-    frame.Border = editor_bevel(editor);
+    frame.Border = bevel_size(editor);
     frame.Flag = (editor.Flag & (OUTIL_INVISIBLE | OUTIL_EMPTY | GRAPH_OUTLINE)) | OUTIL_DISABLE | OUTIL_FLAT;
     frame.Init(wnd);
     if (editor.Border <= 0) frame.Flag |= OUTIL_INVISIBLE;
@@ -92,7 +87,7 @@ void place_swatch(Color_Edit& editor, HWND wnd, const Place& inside) {
     swatch.Flag = editor.Box_Frame.Flag; // hidden where the frame is
     lend_clip(editor, swatch);
     lend_color(editor, swatch);
-    swatch.Border = editor_bevel(editor);
+    swatch.Border = bevel_size(editor);
     put(swatch, {Px(inside.x) + inside.width + GAP, inside.y, editor.Swatch_Width, inside.height});
     if (!(swatch.Flag & OUTIL_INVISIBLE))
         ready_surface(swatch, editor.Dim_Y != editor.Old_Dim_Y, surface_word(editor.Cur_Value));
@@ -106,7 +101,7 @@ void place_button(Color_Edit& editor, HWND wnd, const Place& inside) {
     button.Flag = editor.Flag | OUTIL_VERTICAL;
     lend_clip(editor, button); // but not the colour: the button is grey
     lend_whole_font(editor, button);
-    button.Border = editor_bevel(editor);
+    button.Border = bevel_size(editor);
     put(button, {Px(swatch.Pos_X) + swatch.Dim_X + GAP, inside.y, Px(BUT_DIM) - SPACE, inside.height});
     button.Init(wnd);
     button.Name_Set(hls(editor) ? "HLS" : "RGB");
@@ -121,7 +116,7 @@ void place_bar(Color_Edit& editor, HWND wnd, const Bar& row, const Place& place)
     lend_color(editor, bar);
     lend_whole_font(editor, bar);
     put(bar, place);
-    bar.Border = editor_bevel(editor);
+    bar.Border = bevel_size(editor);
     set_range(bar);
     if (!(bar.Flag & OUTIL_INVISIBLE)) lay_ramp(bar, resized(editor), look.ramp);
     bar.Init(wnd);
@@ -158,10 +153,10 @@ void Color_Edit::Init(HWND wnd) {
     Old_Value = Cur_Value;
     default_color(*this);
     set_region(*this);
-    const int font_height = editor_font_height(*this, "Color_Edit::Init");
+    const int height = font_height(*this, "Color_Edit::Init");
     if (Swatch_Width == 0) Swatch_Width = 2 * Px(BUT_DIM);
     place_frame(*this, wnd);
-    const Place inside = inside_of(*this, font_height);
+    const Place inside = inside_of(*this, height);
     place_swatch(*this, wnd, inside);
     place_button(*this, wnd, inside);
     place_bars(*this, wnd, inside);

@@ -16,7 +16,7 @@ using namespace brask;
 namespace {
 
 // Unlike in Color_Edit, the parts never have a wide bevel.
-int part_bevel(const Hue_Edit& editor) { return std::min(2, editor_bevel(editor)); }
+int part_bevel(const Hue_Edit& editor) { return std::min(2, bevel_size(editor)); }
 
 // What is left for bar and swatch beside the frame; the width is that of the bar.
 Place inside_of(const Hue_Edit& editor) {
@@ -87,7 +87,7 @@ void Hue_Edit::Init(HWND wnd) {
     Old_Value = Cur_Value;
     default_color(*this);
     set_region(*this);
-    editor_font_height(*this, "Hue_Edit::Init"); // asked as in Color_Edit, though no title needs room
+    font_height(*this, "Hue_Edit::Init"); // asked as in Color_Edit, though no title needs room
     if (Swatch_Width == 0) Swatch_Width = 2 * Px(BUT_DIM);
     const Place inside = inside_of(*this);
     place_frame(*this, wnd);

@@ -4,9 +4,6 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include <brask/fonts.h>
-
-#include "foundation/bracket.h"
 #include "foundation/checks.h"
 #include "foundation/layout.h"
 #include "foundation/surfaces.h"
@@ -28,45 +25,6 @@ void drop_select(Tools& part) {
 }
 
 } // namespace
-
-int editor_bevel(const Tools& editor) {
-    return editor.Border < 0 ? -Px(editor.Border) : Px(bevel_width(editor));
-}
-
-int editor_font_height(const Tools& editor, const char* tag) {
-    const HFONT font = Zeb_Create_Font(editor.Wnd, editor.Font_Name, editor.Font_Weight, editor.Font_Slant,
-                                       editor.Font_Size);
-    Setup setup(editor.Wnd, tag);
-    return Zeb_Font_Size_Height(font);
-}
-
-void remember_size(Tools& editor) {
-    editor.Old_Dim_X = editor.Dim_X;
-    editor.Old_Dim_Y = editor.Dim_Y;
-    editor.Old_Border = editor.Border;
-}
-
-void put(Tools& part, const Place& place) {
-    part.Pos_X = place.x;
-    part.Pos_Y = place.y;
-    part.Dim_X = place.width;
-    part.Dim_Y = place.height;
-}
-
-void lend_clip(const Tools& editor, Tools& part) {
-    part.Clip_X = editor.Clip_X;
-    part.Clip_Y = editor.Clip_Y;
-    part.Clip_Dim_X = editor.Clip_Dim_X;
-    part.Clip_Dim_Y = editor.Clip_Dim_Y;
-}
-
-void lend_color(const Tools& editor, Tools& part) { part.Color = editor.Color; }
-
-void lend_font(const Tools& editor, Tools& part) {
-    part.Font_Name = editor.Font_Name;
-    part.Font_Weight = editor.Font_Weight;
-    part.Font_Size = editor.Font_Size;
-}
 
 bool ready_surface(Tools& part, bool anew, DWORD word) {
     if (part.Graph_Normal && !anew && !Host_Surfaces::outgrown(part.Graph_Normal, part)) return true;

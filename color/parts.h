@@ -5,32 +5,16 @@
 #include <brask/valuators.h>
 
 #include "color/words.h"
-#include "foundation/pixels.h"
+#include "foundation/compound.h"
 
 namespace brask {
 
 // What the two colour editors do alike with the controls that they are made of.
 
-// The bevel's width, without its sign.
-int editor_bevel(const Tools& editor);
-// The height of the editor's font; `tag` names the operation.
-int editor_font_height(const Tools& editor, const char* tag);
 // Was the editor given another size since its last Init?
 inline bool resized(const Tools& editor) {
     return editor.Dim_X != editor.Old_Dim_X || editor.Dim_Y != editor.Old_Dim_Y;
 }
-// What the next Init compares with.
-void remember_size(Tools& editor);
-
-// A place inside an editor.
-struct Place {
-    int x, y, width, height;
-};
-void put(Tools& part, const Place& place);
-// What a part has from its editor: the clip rectangle, the colour, the font apart from its slant.
-void lend_clip(const Tools& editor, Tools& part);
-void lend_color(const Tools& editor, Tools& part);
-void lend_font(const Tools& editor, Tools& part);
 
 // Gives the part a surface of its size, of one surface word, where it has none or, with `anew` or at another
 // size, instead of the one that it has. False: there is none, and nothing names one.

@@ -1,0 +1,60 @@
+#include "foundation/compound.h"
+
+#include <brask/fonts.h>
+
+#include "foundation/bracket.h"
+
+namespace brask {
+
+void put(Tools& part, const Place& place) {
+    part.Pos_X = place.x;
+    part.Pos_Y = place.y;
+    part.Dim_X = place.width;
+    part.Dim_Y = place.height;
+}
+
+void lend_clip(const Tools& whole, Tools& part) {
+    part.Clip_X = whole.Clip_X;
+    part.Clip_Y = whole.Clip_Y;
+    part.Clip_Dim_X = whole.Clip_Dim_X;
+    part.Clip_Dim_Y = whole.Clip_Dim_Y;
+}
+
+void lend_color(const Tools& whole, Tools& part) { part.Color = whole.Color; }
+
+void lend_font(const Tools& whole, Tools& part) {
+    part.Font_Name = whole.Font_Name;
+    part.Font_Weight = whole.Font_Weight;
+    part.Font_Size = whole.Font_Size;
+}
+
+void lend_whole_font(const Tools& whole, Tools& part) {
+    lend_font(whole, part);
+    part.Font_Slant = whole.Font_Slant;
+}
+
+int length_or(int length, int standard) {
+    if (!length) return standard;
+    return length < 0 ? -Px(length) : Px(length);
+}
+
+int bevel_size(const Tools& control) { return length_or(control.Border, BORDER); }
+
+HFONT font_of(const Tools& control) {
+    return Zeb_Create_Font(control.Wnd, control.Font_Name, control.Font_Weight, control.Font_Slant,
+                           control.Font_Size);
+}
+
+int font_height(const Tools& control, const char* tag) {
+    const HFONT font = font_of(control);
+    Setup setup(control.Wnd, tag);
+    return Zeb_Font_Size_Height(font);
+}
+
+void remember_size(Tools& control) {
+    control.Old_Dim_X = control.Dim_X;
+    control.Old_Dim_Y = control.Dim_Y;
+    control.Old_Border = control.Border;
+}
+
+} // namespace brask

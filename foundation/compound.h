@@ -1,0 +1,37 @@
+#ifndef FOUNDATION_COMPOUND_H
+#define FOUNDATION_COMPOUND_H
+
+#include <brask/tools.h>
+
+#include "foundation/pixels.h"
+
+namespace brask {
+
+// What controls made of other controls do alike with these.
+
+// A place inside a control.
+struct Place {
+    int x, y, width, height;
+};
+void put(Tools& part, const Place& place);
+// What a part has from its whole: the clip rectangle, the colour, the font apart from its slant.
+void lend_clip(const Tools& whole, Tools& part);
+void lend_color(const Tools& whole, Tools& part);
+void lend_font(const Tools& whole, Tools& part);
+void lend_whole_font(const Tools& whole, Tools& part);
+
+// The bevel's width, without its sign.
+int bevel_size(const Tools& control);
+// A length that a host may leave to the library: without its sign, or the standard one when it is 0.
+int length_or(int length, int standard);
+
+// The control's font, to be asked for before a bracket; and its height. `tag` names the operation.
+HFONT font_of(const Tools& control);
+int font_height(const Tools& control, const char* tag);
+
+// What the next Init compares with.
+void remember_size(Tools& control);
+
+} // namespace brask
+
+#endif
