@@ -162,6 +162,35 @@ TEST_F(SliderPaint, AdjustKeepsTheHoverLook) {
         }
 }
 
+TEST_F(SliderPaint, AdjustPaintsTheSelectedSurfaceInBothLooks) {
+    slider.Alloc_Graph_Normal(1);
+    slider.Alloc_Graph_Select(2);
+    slider.Init(nullptr);
+    for (const int look : {1, 2}) {
+        slider.select = look;
+        EXPECT_EQ(everything([&] { slider.Adjust(); }), everything([&] {
+                      trace_in("Sliders::Adjust", "no name");
+                      face(look == 1, slider.Graph_Select);
+                      frame();
+                      trace_in("Sliders::Select", "no name");
+                      read_pointer("Sliders::Select");
+                      face(0, slider.Graph_Normal);
+                      cursor();
+                      trace_out("Sliders::Select", "0");
+                      trace_out("Sliders::Adjust", "");
+                  }));
+    }
+}
+
+TEST_F(SliderPaint, TheBevelIsThin) {
+    for (const int border : {1, 2, 5}) {
+        slider.Border = border;
+        slider.Init(nullptr);
+        const std::string expected = painted([&] { frame(); });
+        EXPECT_NE(painted([&] { slider.Draw(); }).find(expected), std::string::npos);
+    }
+}
+
 TEST_F(SliderPaint, SelectPaintsTheLookThenArrowsAndThumb) {
     recorder::pointer(90, 30);
     EXPECT_EQ(everything([&] { slider.Select(1); }), everything([&] {
