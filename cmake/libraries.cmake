@@ -10,6 +10,8 @@ get_property(fenn_sources GLOBAL PROPERTY HOUSE_SOURCES_fenn)
 
 add_library(brask STATIC ${brask_sources} $<TARGET_OBJECTS:text>)
 target_link_libraries(brask PUBLIC brask_headers platform_names)
+# The third level makes the controls a fifth larger, and is felt only in what they call.
+target_compile_options(brask PRIVATE $<$<CONFIG:Release>:-O2>)
 target_compile_definitions(brask PUBLIC BRASK_STATIC FENN_STATIC)
 target_include_directories(brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
                            ${HOUSE_FLOORS}/color)
