@@ -6,7 +6,9 @@ import subprocess
 
 
 def pages(tally):
-    files = subprocess.run(["git", "ls-files", "-co", "--exclude-standard", "*.md"], capture_output=True, text=True)
+    git = ["git", "-c", f"safe.directory={os.getcwd()}"]  # the tree may belong to another user
+    files = subprocess.run([*git, "ls-files", "-co", "--exclude-standard", "*.md"], capture_output=True, text=True)
+    tally.check("pages are found", None if files.stdout else files.stderr)
     for page in files.stdout.split():
         tally.check(f"links of {page}", dead_link(page))
     with open("README.md", encoding="utf-8") as readme, open("examples/hello/main.cpp", encoding="utf-8") as host:
