@@ -74,10 +74,13 @@ class Colour : public Page {
     }
     void pointer(int word) override {
         if (take_color(rgb, word)) show_face(rgb.Cur_Value);
-        if (take_color(hue, word)) show_face(hue.Cur_Value);
+        if (take_color(hue, word)) {
+            hue.Draw(); // the way back to the colour of the last Draw is none for its Adjust
+            show_face(hue.Cur_Value);
+        }
         if (take_color(hls, word)) show_text();
         for (Buttons* one : {&button, &lamp})
-            one->Select(word);
+            if (one->Select(word) && (word & 15) == 2) flip(*one);
         box.Select(word);
         if (slider.Select(word)) {
             slider.Cur_Value = slider.Read();
@@ -94,6 +97,7 @@ class Colour : public Page {
             hue.Scroll(-notches);
             show_face(hue.Cur_Value);
         }
+        if (slider.Select(KEY_QUERY)) slider.Scroll(-notches);
     }
     void each(const Visitor& visit) const override {
         editors.each(visit);
@@ -113,6 +117,10 @@ class Colour : public Page {
         Area whole = {lower.x, lower.y, lower.width, upper.y + upper.height - lower.y};
         whole.give(editor);
         editor.Init(wnd);
+    }
+    static void flip(Buttons& toggle) {
+        toggle.Cur_Value = !toggle.Cur_Value;
+        toggle.Adjust();
     }
     // The face's colour goes to every control that has one, and to both editors of it.
     void show_face(unsigned int word) {

@@ -58,12 +58,12 @@ struct BarSample {
 };
 const BarSample lying_bars[] = {
     {L"Linear", OUTIL_CAPTURE, 0, 100, 40, "%.1f", Picture::none},
-    {L"Without number", OUTIL_CAPTURE, -1, 1, 0, nullptr, Picture::none},
-    {L"Decimal logarithm", OUTIL_CAPTURE | VALUATOR_LOG10, 1, 10000, 100, "%.0f", Picture::none},
-    {L"Natural logarithm", OUTIL_CAPTURE | VALUATOR_LN, 0.1f, 1000, 10, "%.2f", Picture::none},
-    {L"High to low", OUTIL_CAPTURE | OUTIL_REVERSE, 100, 0, 75, "%.0f", Picture::none},
+    {L"Without number", OUTIL_CAPTURE, -1, 1, 0.5f, nullptr, Picture::none},
+    {L"Decimal logarithm", OUTIL_CAPTURE | VALUATOR_LOG10, 1, 10000, 1000, "%.0f", Picture::none},
+    {L"Natural logarithm", OUTIL_CAPTURE | VALUATOR_LN, 0.1f, 1000, 100, "%.2f", Picture::none},
+    {L"High to low", OUTIL_CAPTURE | OUTIL_REVERSE, 100, 0, 25, "%.0f", Picture::none},
     {L"Locked", OUTIL_CAPTURE | VALUATOR_FREZE, 0, 1, 0.5f, "%.2f", Picture::none},
-    {L"Surfaces of the host", OUTIL_CAPTURE, 0, 255, 128, "%.0f", Picture::ramp},
+    {L"Surfaces of the host", OUTIL_CAPTURE, 0, 255, 204, "%.0f", Picture::ramp},
     {L"Disabled", OUTIL_DISABLE, 0, 100, 60, "%.0f", Picture::none},
     {L"Outline", GRAPH_OUTLINE, 0, 100, 60, nullptr, Picture::none},
 };
@@ -107,11 +107,15 @@ class SliderSection {
         for (std::size_t i = 0; i < lying.size(); i++) {
             set_range(lying[i], lying_sliders[i]);
             lying[i].Step = 5;
+            lying[i].Name_Set(L"%ls",
+                              lying_sliders[i].caption); // a slider does not write it: the caption does
             captions[i].Flag = TEXT_LEFT;
             captions[i].Name_Set(L"%ls", lying_sliders[i].caption);
         }
-        for (std::size_t i = 0; i < standing.size(); i++)
+        for (std::size_t i = 0; i < standing.size(); i++) {
             set_range(standing[i], standing_sliders[i]);
+            standing[i].Name_Set(L"%ls", standing_sliders[i].caption);
+        }
     }
     void layout(HWND wnd, const Area& area) {
         Area inner = panel.place(wnd, area);
@@ -170,8 +174,8 @@ class SliderSection {
 class BarSection {
   public:
     BarSection() : lying(std::size(lying_bars)), standing(std::size(standing_bars)) {
-        fill(lying, lying_bars);
-        fill(standing, standing_bars);
+        fill(lying, lying_bars, TEXT_LEFT);
+        fill(standing, standing_bars, TEXT_TOP);
     }
     void layout(HWND wnd, const Area& area) {
         Area inner = panel.place(wnd, area);
@@ -209,10 +213,12 @@ class BarSection {
     }
 
   private:
+    // The names stand at one end, where the thumb seldom hides them.
     template <std::size_t COUNT>
-    static void fill(std::vector<Valuators>& bars, const BarSample (&samples)[COUNT]) {
+    static void fill(std::vector<Valuators>& bars, const BarSample (&samples)[COUNT], DWORD name_place) {
         for (std::size_t i = 0; i < COUNT; i++) {
             set_range(bars[i], samples[i]);
+            bars[i].Flag |= name_place;
             bars[i].Format = samples[i].format;
             bars[i].Num_Width = samples[i].format ? 2 * NUM_DIM : 0;
             bars[i].Name_Set(L"%ls", samples[i].name);

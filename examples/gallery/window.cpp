@@ -144,7 +144,7 @@ void Gallery::choose_page(int word) {
 // The system gives the wheel in parts of a notch.
 void Gallery::wheel(WPARAM amount) {
     turned += short(HIWORD(amount));
-    page->wheel(turned / notch);
+    if (turned / notch) page->wheel(turned / notch);
     turned %= notch;
 }
 
