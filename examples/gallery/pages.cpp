@@ -4,11 +4,13 @@
 
 std::unique_ptr<Page> make_page_basics();
 std::unique_ptr<Page> make_page_values();
+std::unique_ptr<Page> make_page_items();
 std::unique_ptr<Page> make_page_colour();
 
 const PageEntry pages[] = {
     {"Basics", make_page_basics},
     {"Values", make_page_values},
+    {"Items", make_page_items},
     {"Colour", make_page_colour},
 };
 const std::size_t page_count = sizeof pages / sizeof pages[0];
