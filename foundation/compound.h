@@ -20,6 +20,10 @@ void lend_color(const Tools& whole, Tools& part);
 void lend_font(const Tools& whole, Tools& part);
 void lend_whole_font(const Tools& whole, Tools& part);
 
+// Names a part by a text that may hold anything: it is the format itself, without arguments, so that a
+// conversion in it prints nothing.
+int set_plain_name(Tools& part, const wchar_t* text);
+
 // The bevel's width, without its sign.
 int bevel_size(const Tools& control);
 // A length that a host may leave to the library: without its sign, or the standard one when it is 0.

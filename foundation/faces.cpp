@@ -1,9 +1,12 @@
 #include "foundation/faces.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <initializer_list>
+#include <limits>
 
+#include "foundation/checks.h"
 #include "foundation/trace.h"
 
 namespace brask {
@@ -41,14 +44,15 @@ Face*& chain_of(const void* pixels) {
 Face*& chain_of(const Look& look) {
     std::uint64_t sum = static_cast<unsigned>(look.width);
     for (unsigned part : {static_cast<unsigned>(look.height), static_cast<unsigned>(look.inset),
-                          static_cast<unsigned>(look.color), static_cast<unsigned>(look.flat)})
+                          static_cast<unsigned>(look.color), static_cast<unsigned>(look.flat),
+                          static_cast<unsigned>(look.room)})
         sum = sum * 1000003 + part;
     return buckets[mix(sum)].by_look;
 }
 
 bool equal(const Look& a, const Look& b) {
     return a.width == b.width && a.height == b.height && a.inset == b.inset && a.color == b.color &&
-           a.flat == b.flat;
+           a.flat == b.flat && a.room == b.room;
 }
 
 Face* find(const void* pixels) {
@@ -115,6 +119,14 @@ Face* make(const Look& look) {
     return face;
 }
 
+// One with an owner more, or a new one; null when memory fails.
+Face* share_or_make(const Look& look) {
+    Face* face = find(look);
+    if (!face) return make(look);
+    face->owners++;
+    return face;
+}
+
 } // namespace
 
 namespace faces {
@@ -123,12 +135,19 @@ DWORD* ask(const Tools& control, const Colors& color) {
     Trace trace("Tools::Inside_3D", control);
     const Look look = look_of(control, color);
     trace.out(look.flat ? "no 3D" : "");
-    Face* face = find(look);
-    if (face)
-        face->owners++;
-    else
-        face = make(look);
+    const Face* face = share_or_make(look);
     return face ? face->pixels : nullptr;
+}
+
+DWORD* with_room(DWORD* pixels, const Tools& control) {
+    if (too_small(control) || !outgrown(pixels, control)) return pixels;
+    const std::int64_t count = std::int64_t{control.Dim_X} * control.Dim_Y;
+    Look look = find(pixels)->look;
+    look.room = static_cast<int>(std::min<std::int64_t>(count, std::numeric_limits<int>::max()));
+    const Face* face = share_or_make(look);
+    if (!face) return pixels;
+    drop(pixels);
+    return face->pixels;
 }
 
 void share(const DWORD* pixels) {
@@ -151,7 +170,8 @@ DWORD* drop(DWORD* pixels) {
 
 bool outgrown(const void* image, const Tools& control) {
     const Face* face = find(image);
-    return face && (face->look.width != control.Dim_X || face->look.height != control.Dim_Y);
+    if (!face || (face->look.width == control.Dim_X && face->look.height == control.Dim_Y)) return false;
+    return too_small(control) || std::int64_t{control.Dim_X} * control.Dim_Y > face->look.room;
 }
 
 } // namespace faces

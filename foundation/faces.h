@@ -15,6 +15,7 @@ struct Look {
     int inset;         // width of the margin, which is never shown; at least 0
     DWORD color;       // surface word
     bool flat;
+    int room = 0; // least number of pixels in the block; those after the picture have the face's colour
 };
 
 // The look that a control would give to a face of this colour.
@@ -32,12 +33,17 @@ namespace faces {
 // already, or a new one. Null when memory fails. Traced as the painting of a face.
 DWORD* ask(const Tools& control, const Colors& color);
 
+// The face as one that may also be read as a surface of the control's size, whatever comes of that: another
+// face, which the caller owns in place of this one. This one itself where it will do, and without memory.
+DWORD* with_room(DWORD* face, const Tools& control);
+
 // One owner more, for a control that was copied.
 void share(const DWORD* face);
 // One owner less; the last one frees it. Null, for `face = drop(face)`.
 DWORD* drop(DWORD* face);
 
-// Is this a face of another size than the control has now? Such a face must not be read.
+// Is this a face of another size than the control has now, without room for that? Such a face must not be
+// read.
 bool outgrown(const void* image, const Tools& control);
 
 } // namespace faces

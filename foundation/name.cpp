@@ -6,6 +6,7 @@
 #include <cwchar>
 
 #include "foundation/checks.h"
+#include "foundation/compound.h"
 #include "foundation/trace.h"
 #include "text/format.h"
 
@@ -68,6 +69,12 @@ int keep_entry(Tools& control, const wchar_t* entry) {
 
 } // namespace
 
+int brask::set_plain_name(Tools& control, const wchar_t* text) {
+    wchar_t plain[NAME_ROOM];
+    const int length = text::format_bare(plain, NAME_ROOM, text);
+    return keep_formatted(control, plain, length);
+}
+
 // Everywhere below the new text is made before the old name goes, since it may be made of the old one.
 
 int Tools::Name_Set(const wchar_t* format, ...) {
@@ -82,12 +89,7 @@ int Tools::Name_Set(const wchar_t* format, ...) {
 
 int Tools::Name_Set(std::nullptr_t) { return clear_name(*this); }
 
-int Tools::Name_Set(const char* text) {
-    if (!text) return 1;
-    wchar_t plain[NAME_ROOM];
-    const int length = text::format_bare(plain, NAME_ROOM, Char_2_Wchar(text));
-    return keep_formatted(*this, plain, length);
-}
+int Tools::Name_Set(const char* text) { return text ? set_plain_name(*this, Char_2_Wchar(text)) : 1; }
 
 int Tools::Name_Set(int which, int count, wchar_t* const* table, const char* fallback) {
     if (const wchar_t* entry = entry_of(which, count, table)) return keep_entry(*this, entry);

@@ -136,8 +136,21 @@ DWORD* surface_block(int width, int height) {
     return static_cast<DWORD*>(std::malloc(static_cast<std::size_t>(count) * sizeof(DWORD)));
 }
 
+namespace {
+
+// A block with the room for the look, filled where no picture is.
+DWORD* look_block(const Look& look) {
+    const std::int64_t count = std::int64_t{look.width} * look.height;
+    if (count > MOST_PIXELS || look.room <= count) return surface_block(look.width, look.height);
+    DWORD* pixels = surface_block(look.room, 1);
+    if (pixels) std::fill_n(pixels + count, look.room - count, look.color);
+    return pixels;
+}
+
+} // namespace
+
 DWORD* paint_look(const Look& look) {
-    DWORD* pixels = surface_block(look.width, look.height);
+    DWORD* pixels = look_block(look);
     if (!pixels) return nullptr;
     const Inner inner = inner_of(look);
     if (look.flat || !inner.width) {
