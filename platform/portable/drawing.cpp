@@ -41,8 +41,15 @@ static void draw_line(const DeviceContext& dc, POINT from, POINT to) {
 
 static POINT point_on_circle(int x, int y, DWORD radius, double degrees) {
     const double angle = degrees * 3.14159265358979323846 / 180.0;
-    return {static_cast<LONG>(std::lround(x + std::cos(angle) * radius)),
-            static_cast<LONG>(std::lround(y - std::sin(angle) * radius))};
+    return {static_cast<LONG>(std::floor(x + std::cos(angle) * radius + 0.5)),
+            static_cast<LONG>(std::floor(y - std::sin(angle) * radius + 0.5))};
+}
+
+// Where Y runs upward GDI mirrors an arc's ends but not its direction: it paints the other part of the
+// circle. A whole turn stays one.
+static FLOAT flipped_sweep(FLOAT sweep) {
+    if (std::fabs(sweep) >= 360.0f) return sweep;
+    return sweep < 0 ? -360.0f - sweep : 360.0f - sweep;
 }
 
 } // namespace platform
@@ -74,18 +81,17 @@ BOOL AngleArc(HDC handle, int x, int y, DWORD radius, FLOAT start, FLOAT sweep) 
     if (near_enough(x) != x || near_enough(y) != y) return FALSE;
     std::uint32_t color = 0;
     if (pen_color(*dc, &color)) {
-        // Angles count in logical coordinates: where Y runs upward the arc is mirrored.
-        const float sense = dc->flipped ? -1.0f : 1.0f;
         const raster::Point from = device_point(*dc, dc->position);
         const raster::Point center = device_point(*dc, {x, y});
         const LOGPEN* pen = pen_description(dc->pen);
-        raster::angle_arc(dc->canvas, dc->clip, from, center, radius, sense * start, sense * sweep,
-                          pen ? std::max<int>(pen->lopnWidth.x, 1) : 1, color);
-        const int reach = static_cast<int>(radius) + 1;
+        const int width = pen ? std::max<int>(pen->lopnWidth.x, 1) : 1;
+        raster::angle_arc(dc->canvas, dc->clip, from, center, radius, dc->flipped ? -start : start,
+                          dc->flipped ? flipped_sweep(sweep) : sweep, width, color);
+        const int reach = static_cast<int>(radius) + 1 + width / 2;
         changed(*dc, {std::min(from.x, center.x - reach), std::min(from.y, center.y - reach),
                       std::max(from.x, center.x + reach) + 1, std::max(from.y, center.y + reach) + 1});
     }
-    dc->position = point_on_circle(x, y, radius, static_cast<double>(start) + sweep);
+    dc->position = point_on_circle(x, y, radius, start + sweep);
     return TRUE;
 }
 
