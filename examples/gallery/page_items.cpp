@@ -1,8 +1,9 @@
-// The page "Items": lists and spinners.
+// The page "Items": lists, check lists and spinners.
 #include <iterator>
 #include <memory>
 #include <vector>
 
+#include <brask/checklists.h>
 #include <brask/lists.h>
 #include <brask/selects.h>
 
@@ -81,6 +82,65 @@ class ListSection {
     Lists* const lists[5] = {&few, &rows, &side, &columns, &disabled};
 };
 
+const char* const toppings[] = {"Tomato", "Mushroom", "Onion", "Olives", "Basil", "Capers", nullptr};
+const char* const sizes[] = {"Small", "Medium", "Large", "Family", nullptr};
+const char enabled[] = {1, 1, 0, 1, 1, 0};
+const unsigned int tones[] = {0x4040D0, 0x60A0D0, 0xE0E0E0, 0x408040, 0x40C040, 0x808040};
+
+class CheckSection {
+  public:
+    CheckSection() {
+        mask.List = colored.List = toppings;
+        mask.Cur_Value = 5;
+        mask.Name_Set(L"Mask");
+        colored.Colour = tones;
+        colored.Enable = enabled;
+        colored.Name_Set(L"Colours, disabled entries");
+        one.List = sizes;
+        one.Flag = CHECK_EXCLUSIVE | CHECK_HORIZONTAL;
+        one.Cur_Value = 1;
+        one.Name_Set(L"Exclusive");
+        for (CheckLists* list : lists)
+            list->Font_Size = 12;
+    }
+    void layout(HWND wnd, const Area& area) {
+        Area inner = panel.place(wnd, area);
+        place(one, wnd, inner.cut_bottom(inner.height / 4));
+        inner.cut_bottom(SPACE);
+        place(mask, wnd, inner.cell(0, 2, 0, 1));
+        place(colored, wnd, inner.cell(1, 2, 0, 1));
+    }
+    void draw() {
+        panel.draw();
+        for (CheckLists* list : lists)
+            list->Draw();
+    }
+    void pointer(int word) {
+        for (CheckLists* list : lists) {
+            if (!list->Select(word) || (word & 15) != 2) continue;
+            long long value = list->Read();
+            if (value < 0) continue;
+            list->Cur_Value = value;
+            list->Adjust();
+        }
+    }
+    void each(const Visitor& visit) const {
+        panel.each(visit);
+        for (const CheckLists* list : lists)
+            visit("checks", *list);
+    }
+
+  private:
+    static void place(CheckLists& list, HWND wnd, const Area& area) {
+        area.give(list);
+        list.Init(wnd);
+    }
+
+    Panel panel{L"Check lists"};
+    CheckLists mask, colored, one;
+    CheckLists* const lists[3] = {&mask, &colored, &one};
+};
+
 struct SpinnerSample {
     const wchar_t* name;
     DWORD flag;
@@ -89,9 +149,9 @@ struct SpinnerSample {
 };
 const SpinnerSample spinners[] = {
     {L"Weekday", TEXT_LEFT, 0, -1},
-    {L"Without Wednesday", TEXT_LEFT, 240, 2},
+    {L"No Wednesday", TEXT_LEFT, 200, 2},
     {L"Name above", 0, 0, -1},
-    {L"Disabled", TEXT_LEFT | OUTIL_DISABLE, 240, -1},
+    {L"Disabled", TEXT_LEFT | OUTIL_DISABLE, 200, -1},
 };
 constexpr std::size_t name_above = 2;
 const wchar_t* const choices[] = {L"Monday", L"Tuesday",  L"Wednesday", L"Thursday",
@@ -113,15 +173,15 @@ class SpinnerSection {
     }
     void layout(HWND wnd, const Area& area) {
         Area inner = panel.place(wnd, area);
-        Area upper = inner.cut_top(inner.height * 2 / 3);
+        Area upper = inner.cut_left(inner.width * 3 / 4);
         for (std::size_t i = 0; i < lying.size(); i++) {
             Area row = upper.cell(0, 1, int(i), int(lying.size()));
             int height = i == name_above ? 60 : 36;
             row.cut_top(row.height < height ? row.height : height).give(lying[i]);
             lying[i].Init(wnd);
         }
-        inner.cut_top(SPACE);
-        inner.cut_left(inner.width / 3).cut_top(130).give(standing);
+        inner.cut_left(SPACE);
+        inner.cut_top(inner.height < 130 ? inner.height : 130).give(standing);
         standing.Init(wnd);
     }
     void draw() {
@@ -170,14 +230,18 @@ class Items : public Page {
         Area inner = area.inset(SPACE);
         lists.layout(wnd, inner.cut_left(inner.width * 62 / 100));
         inner.cut_left(SPACE);
+        checks.layout(wnd, inner.cut_top(inner.height * 45 / 100));
+        inner.cut_top(SPACE);
         spinner.layout(wnd, inner);
     }
     void draw() override {
         lists.draw();
+        checks.draw();
         spinner.draw();
     }
     void pointer(int word) override {
         lists.pointer(word);
+        checks.pointer(word);
         spinner.pointer(word);
     }
     void wheel(int notches) override {
@@ -186,11 +250,13 @@ class Items : public Page {
     }
     void each(const Visitor& visit) const override {
         lists.each(visit);
+        checks.each(visit);
         spinner.each(visit);
     }
 
   private:
     ListSection lists;
+    CheckSection checks;
     SpinnerSection spinner;
 };
 

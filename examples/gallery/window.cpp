@@ -121,7 +121,7 @@ void Gallery::mouse(UINT message, LPARAM position) {
     int word = event_word(message);
     if ((word & 15) == 2) SetCapture(wnd); // so that a drag outside still arrives
     if (word == 0) ReleaseCapture();
-    if (!watched) {
+    if (!watched && GetCapture() != wnd) {
         TRACKMOUSEEVENT ask = {sizeof ask, TME_LEAVE, wnd, 0};
         watched = TrackMouseEvent(&ask);
     }
@@ -150,6 +150,7 @@ void Gallery::wheel(WPARAM amount) {
 
 void Gallery::leave() {
     watched = false;
+    if (GetCapture() == wnd) return; // a drag goes on outside; its end comes as a message of its own
     set_pointer(wnd, -1, -1);
     strip.pointer(0);
     page->pointer(0);
