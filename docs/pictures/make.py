@@ -17,10 +17,22 @@ from pictures import read_png
 
 build = sys.argv[1]
 subprocess.run([os.path.join(build, "bin/gallery"), "--snapshot", here], check=True)
-page = read_png(os.path.join(here, "basics.png"))
-page.save(os.path.join(here, "basics.png"))  # the same picture in fewer bytes
-panels = System("native", build, "", []).layout(page.width, page.height)
-for name in ("Boxes", "Labels", "Buttons"):
-    panel = panels["panel", name]
-    part = page.crop(panel.x, panel.down(panel.y + panel.height), panel.width + 1, panel.height + 1)
-    part.save(os.path.join(here, name.lower() + ".png"))
+for name in os.listdir(here):
+    if name.endswith(".png"):
+        picture = os.path.join(here, name)
+        read_png(picture).save(picture)  # the same picture in fewer bytes
+
+
+def part(page, left, top, width, height, name):
+    read_png(os.path.join(here, page + ".png")).crop(left, top, width, height).save(os.path.join(here, name + ".png"))
+
+
+size = read_png(os.path.join(here, "basics.png"))
+controls = System("native", build, "", []).layout(size.width, size.height)
+PANELS = {"basics": ("Boxes", "Labels", "Buttons"), "values": ("Sliders", "Value bars"), "items": ("Lists", "Spinners")}
+for page, names in PANELS.items():
+    for name in names:
+        panel = controls["panel", name]
+        part(page, panel.x, panel.down(panel.y + panel.height), panel.width + 1, panel.height + 1,
+             name.lower().replace(" ", "-"))
+part("values", 0, 0, size.width, 60, "tabs")
