@@ -53,6 +53,12 @@ std::wstring bare(const wchar_t* format) {
     return out;
 }
 
+std::wstring number(const wchar_t* format, double value) {
+    wchar_t out[64];
+    text::format_number(out, 64, format, value);
+    return out;
+}
+
 const wchar_t pair[] = {wchar_t(0xD83D), wchar_t(0xDE00), 0};
 
 TEST(Format, WideAndNarrowTextInEachForm) {
@@ -247,6 +253,26 @@ TEST(Format, BareFormatsPrintNoConversion) {
     wchar_t out[4];
     EXPECT_EQ(text::format_bare(out, 4, L"ab%%cd"), 5);
     EXPECT_STREQ(out, L"ab%");
+}
+
+TEST(Format, OneNumberIsPrintedByTheFirstFloatingConversion) {
+    EXPECT_EQ(number(L"%.1f Hz", 12.34), L"12.3 Hz");
+    EXPECT_EQ(number(L"<%8.2e|%f>", 12.34), L"<1.23e+01|>");
+    EXPECT_EQ(number(L"%g%%", 50), L"50%");
+    EXPECT_EQ(number(L"%Lg", 0.5), L"0.5");
+    EXPECT_EQ(number(L"nothing to print", 1), L"nothing to print");
+    EXPECT_EQ(number(nullptr, 1), L"");
+}
+
+TEST(Format, OtherConversionsBesideOneNumberReadNothing) {
+    EXPECT_EQ(number(L"a%sb%dc%nd%pe%hsf%lsg%!h%G", 2), L"abcdefgh2");
+    EXPECT_EQ(number(L"%*.*f", 2.7), L"3"); // each * is 0
+    EXPECT_EQ(number(L"%s", 2), L"");
+    wchar_t out[4];
+    EXPECT_EQ(text::format_number(out, 4, L"%.3f", 1.5), 5);
+    EXPECT_STREQ(out, L"1.5");
+    EXPECT_EQ(text::format_number(out, 4, L"%300.0f", 1), 300);
+    EXPECT_STREQ(out, L"   ");
 }
 
 } // namespace
