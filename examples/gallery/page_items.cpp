@@ -56,7 +56,7 @@ class ListSection {
     }
     void wheel(int notches) {
         for (Lists* list : lists)
-            if (list->Select(KEY_QUERY)) list->Scroll(-notches);
+            if (list->Select(KEY_QUERY)) list->Scroll(list->Flag & OUTIL_VERTICAL ? -notches : notches);
     }
     void each(const Visitor& visit) const {
         panel.each(visit);
