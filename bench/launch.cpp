@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
+#include <string>
 
 #include <spawn.h>
 #include <sys/wait.h>
@@ -29,6 +30,21 @@ long peak_kilobytes(pid_t child) {
     return peak;
 }
 
+// The second number of a process' schedstat, in milliseconds; 0 without such a process.
+double held_up(const std::string& process) {
+    long long ran = 0, waited = 0;
+    if (std::FILE* file = std::fopen(("/proc/" + process + "/schedstat").c_str(), "r")) {
+        if (std::fscanf(file, "%lld %lld", &ran, &waited) != 2) waited = 0;
+        std::fclose(file);
+    }
+    return static_cast<double>(waited) / 1e6;
+}
+
+double server_held_up() {
+    const char* const server = std::getenv("BENCH_DISPLAY_SERVER");
+    return server ? held_up(server) : 0;
+}
+
 bool measure(char** command) {
     int to_child[2], from_child[2];
     if (pipe(to_child) || pipe(from_child)) return false;
@@ -39,6 +55,7 @@ bool measure(char** command) {
     for (int end : {to_child[0], to_child[1], from_child[0], from_child[1]})
         posix_spawn_file_actions_addclose(&actions, end);
 
+    const double server_before = server_held_up();
     const auto start = std::chrono::steady_clock::now();
     pid_t child;
     const int failed = posix_spawnp(&child, command[0], &actions, nullptr, command, environ);
@@ -48,7 +65,10 @@ bool measure(char** command) {
     char mark = 0;
     const bool painted = !failed && read(from_child[0], &mark, 1) == 1 && mark == '!';
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-    if (painted) std::printf("%.3f %ld\n", time.count(), peak_kilobytes(child));
+    if (painted)
+        std::printf("%.3f %ld\n",
+                    time.count() - held_up(std::to_string(child)) - (server_held_up() - server_before),
+                    peak_kilobytes(child));
     close(to_child[1]);
     close(from_child[0]);
     if (!failed) waitpid(child, nullptr, 0);

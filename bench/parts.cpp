@@ -74,8 +74,8 @@ void plain_memcpy(benchmark::State& state, int width, int height) {
 
 // A button's face stays in the cache of the processor, a window's does not.
 #define IN_TWO_SIZES(work)                                                                                   \
-    BENCHMARK_CAPTURE(work, button, layout::button_width, layout::button_height)->UseRealTime();             \
-    BENCHMARK_CAPTURE(work, window, layout::window_width, layout::window_height)->UseRealTime()
+    BENCHMARK_CAPTURE(work, button, layout::button_width, layout::button_height);                            \
+    BENCHMARK_CAPTURE(work, window, layout::window_width, layout::window_height)
 IN_TWO_SIZES(shaded_face);
 IN_TWO_SIZES(fresh_memset);
 IN_TWO_SIZES(image_to_window);

@@ -8,7 +8,7 @@ $1 == "name" {
 }
 column["name"] {
     name = $1
-    gsub(/"|\/real_time|\/iterations:[0-9]+/, "", name)
+    gsub(/"|\/manual_time|\/iterations:[0-9]+/, "", name)
     value = $column["items_per_second"]
     if (value == "")
         value = $column["bytes_per_second"] / 1e9

@@ -8,12 +8,11 @@
 // repaints that it caused are flushed before the next one. FLTK finds the widget under the pointer itself.
 // Its buttons have no hover look, so this one asks for a repaint in another colour.
 
-#include <benchmark/benchmark.h>
-
 #include <FL/Fl.H>
 #include <FL/fl_draw.H>
 #include <FL/x.H>
 
+#include "busy.h"
 #include "fltk_scene.h"
 
 namespace {
@@ -37,33 +36,31 @@ void full_repaint(benchmark::State& state) {
     fltk_scene::Window& work = window();
     const Fl_Offscreen buffer = fl_create_offscreen(layout::window_width, layout::window_height);
     fl_begin_offscreen(buffer);
-    while (state.KeepRunningBatch(batch)) {
+    busy::measure(state, batch, [&] {
         for (int i = 0; i < batch; i++)
             work.draw_all();
         XSync(fl_display, False);
-    }
+    });
     fl_end_offscreen();
     fl_delete_offscreen(buffer);
-    state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(full_repaint)->UseRealTime();
+BENCHMARK(full_repaint)->UseManualTime();
 
 void moves(benchmark::State& state, int ahead) {
     fltk_scene::Window& work = window();
     work.drawn = 0;
     long step = 0;
-    while (state.KeepRunningBatch(ahead)) {
+    busy::measure(state, ahead, [&] {
         for (int i = 0; i < ahead; i++)
             work.move(layout::middle(layout::visited(step++)));
         XSync(fl_display, False);
-    }
+    });
     if (work.drawn < state.iterations() * 19 / 10) state.SkipWithError("each move has two buttons to paint");
-    state.SetItemsProcessed(state.iterations());
 }
 void pointer_moves(benchmark::State& state) { moves(state, 1); }
 void pointer_moves_ahead(benchmark::State& state) { moves(state, batch); }
-BENCHMARK(pointer_moves)->Iterations(10000)->UseRealTime();
-BENCHMARK(pointer_moves_ahead)->Iterations(10000)->UseRealTime();
+BENCHMARK(pointer_moves)->Iterations(10000)->UseManualTime();
+BENCHMARK(pointer_moves_ahead)->Iterations(10000)->UseManualTime();
 
 } // namespace
 

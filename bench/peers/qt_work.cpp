@@ -3,8 +3,7 @@
 // Full repaint: a shown window's repaint(), which goes straight into its backing store: that is faster than
 // rendering the widgets into an image of one's own. Pointer moves: as the platform's plug-in delivers them.
 
-#include <benchmark/benchmark.h>
-
+#include "busy.h"
 #include "qt_scene.h"
 
 namespace {
@@ -13,32 +12,26 @@ qt_scene::Window* window;
 
 void full_repaint(benchmark::State& state) {
     window->drawn = 0;
-    for (auto _ : state)
-        window->repaint();
+    busy::measure(state, 1, [] { window->repaint(); });
     if (window->drawn != state.iterations() * layout::count)
         state.SkipWithError("a repaint has to paint every button");
-    state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(full_repaint)->UseRealTime();
+BENCHMARK(full_repaint)->UseManualTime();
 
 void full_render(benchmark::State& state) {
     QImage image(layout::window_width, layout::window_height, QImage::Format_RGB32);
-    for (auto _ : state)
-        window->render(&image);
-    state.SetItemsProcessed(state.iterations());
+    busy::measure(state, 1, [&] { window->render(&image); });
 }
-BENCHMARK(full_render)->UseRealTime();
+BENCHMARK(full_render)->UseManualTime();
 
 void pointer_moves(benchmark::State& state) {
     window->drawn = 0;
     long step = 0;
-    for (auto _ : state)
-        window->move(layout::middle(layout::visited(step++)));
+    busy::measure(state, 1, [&] { window->move(layout::middle(layout::visited(step++))); });
     if (window->drawn < state.iterations() * 19 / 10)
         state.SkipWithError("each move has two buttons to paint");
-    state.SetItemsProcessed(state.iterations());
 }
-BENCHMARK(pointer_moves)->Iterations(10000)->UseRealTime();
+BENCHMARK(pointer_moves)->Iterations(10000)->UseManualTime();
 
 } // namespace
 
