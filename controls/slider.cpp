@@ -191,11 +191,11 @@ float Sliders::Read() {
     const char* way = axis.vertical ? "OUTIL_VERTICAL" : "";
     // As thick as long, whatever Arrow_Len says: unlike the test of a press, on purpose.
     if (offset <= axis.thick || offset >= axis.length - axis.thick) return trace.out(way, Cur_Value);
-    const int last = std::min(Table_Size, TABLE_ROOM) - 1;
-    if (last < 1) return trace.out(way, Cur_Value); // there was no room for a table
+    const int places = std::min(Table_Size, TABLE_ROOM);
+    if (places < 2) return trace.out(way, Cur_Value); // there was no room for a table
     // The pointer holds the thumb by its middle.
     const int at = offset - (axis.thick + bevel_width(*this) + Larg - 1);
-    return trace.out(way, Value_Table[std::clamp(at, 0, last)]);
+    return trace.out(way, Value_Table[std::clamp(at, 0, places - 1)]);
 }
 
 float Sliders::Scroll(int notches) {

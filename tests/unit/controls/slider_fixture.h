@@ -1,0 +1,129 @@
+#ifndef TESTS_SLIDER_FIXTURE_H
+#define TESTS_SLIDER_FIXTURE_H
+
+#include <utility>
+#include <vector>
+
+#include <brask/fenn.h>
+#include <brask/sliders.h>
+
+#include "unit/brask/expect.h"
+
+// A slider at 10, 20, along either axis, and its steps told by calls of the base and of the drawing contract.
+struct Slider : Recorded {
+    static constexpr int kX = 10, kY = 20;
+    Sliders slider;
+
+    void SetUp() override {
+        Recorded::SetUp();
+        BORDER = 3, SPACE = 6, CURSEUR = 16;
+        lay(0, 200, 16);
+    }
+    void TearDown() override {
+        BORDER = 3, SPACE = 6, CURSEUR = 16;
+        Recorded::TearDown();
+    }
+
+    // So long and so thick, along the axis that the flag tells, values from 0 to 100; Init done and
+    // forgotten.
+    void lay(DWORD flag, int length, int thick, int larg = 20, int border = 0) {
+        slider.Flag = flag;
+        slider.Pos_X = kX, slider.Pos_Y = kY;
+        slider.Dim_X = vertical() ? thick : length;
+        slider.Dim_Y = vertical() ? length : thick;
+        slider.Larg = larg;
+        slider.Border = border;
+        slider.Val_Min = 0, slider.Val_Max = 100;
+        if (flag & OUTIL_REVERSE) std::swap(slider.Val_Min, slider.Val_Max);
+        slider.Init(recorder::window());
+        outside();
+        recorder::clear();
+    }
+    bool vertical() const { return (slider.Flag & OUTIL_VERTICAL) != 0; }
+    int bevel() const { return slider.Border ? slider.Border : BORDER; }
+    int right() const { return slider.Pos_X + slider.Dim_X; }
+    int top() const { return slider.Pos_Y + slider.Dim_Y; }
+
+    // --- The pointer: so far along the track, in the middle of its thickness ---
+    void along(int offset) {
+        vertical() ? recorder::pointer(kX + slider.Dim_X / 2, kY + offset)
+                   : recorder::pointer(kX + offset, kY + slider.Dim_Y / 2);
+    }
+    // As far along, but beside the slider.
+    void beside(int offset) {
+        vertical() ? recorder::pointer(kX - 50, kY + offset) : recorder::pointer(kX + offset, kY - 50);
+    }
+    void inside() { along(vertical() ? slider.Dim_Y / 2 : slider.Dim_X / 2); }
+    void outside() { recorder::pointer(-500, -500); }
+
+    // --- The steps ---
+    using Points = std::vector<std::pair<int, int>>;
+    static void line(unsigned long color, const Points& points) {
+        Zeb_color(color);
+        for (std::size_t i = 0; i < points.size(); ++i)
+            i ? draw2s(points[i].first, points[i].second, 0) : move2s(points[0].first, points[0].second);
+    }
+    void vertical_thumb(int p) const {
+        const int h = slider.Larg, l = slider.Pos_X + 2 + bevel(), r = right() - 2 - bevel(),
+                  B = slider.Pos_Y + 1 + bevel() + p, T = B + 2 * h - 1;
+        Zeb_color(0x6E6E6E);
+        draw_fill_rectangle(l + 1, T, r, B);
+        line(0xD8D8D8, {{l, B}, {l, T}, {r - 1, T}});
+        line(0xD8D8D8, {{l + 1, B + h - 1}, {r - 1, B + h - 1}});
+        line(1, {{l + 1, B}, {r, B}, {r, T}});
+        line(1, {{l + 2, B + 1}, {r - 1, B + 1}, {r - 1, T - 1}});
+        line(1, {{l + 1, B + h}, {r, B + h}});
+    }
+    void horizontal_thumb(int p) const {
+        const int h = slider.Larg, l = slider.Pos_X + bevel() + p, r = l + 2 * h - 1,
+                  B = slider.Pos_Y + 2 + bevel(), T = top() - 2 - bevel();
+        Zeb_color(0x6E6E6E);
+        draw_fill_rectangle(l + 1, T - 1, r, B);
+        line(0xD8D8D8, {{l, B}, {l, T}, {r - 1, T}});
+        line(0xD8D8D8, {{l + h, B + 1}, {l + h, T}});
+        line(1, {{l + 1, B}, {r, B}, {r, T}});
+        line(1, {{l + 2, B + 1}, {r - 1, B + 1}, {r - 1, T - 1}});
+        line(1, {{l + h - 1, B + 1}, {l + h - 1, T - 1}});
+    }
+    void thumb(int p) const {
+        Zeb_setup(slider.Wnd, "Sliders::Cursor");
+        const bool clip = slider.Clip_Dim_X != 0;
+        if (clip) Zeb_set_clip(slider.Clip_X, slider.Clip_Y, slider.Clip_Dim_X, slider.Clip_Dim_Y);
+        vertical() ? vertical_thumb(p) : horizontal_thumb(p);
+        if (clip) Zeb_reset_clip();
+        Zeb_release();
+    }
+    void arrows(int length) {
+        for (const int kind : {vertical() ? 2 : 0, vertical() ? 3 : 1})
+            slider.Arrow(kind, bevel() + 2, length, kX, slider.Dim_X, kY, slider.Dim_Y);
+    }
+    // The value 0 of 0 to 100: the thumb stands at the start, past an arrow as long as the slider is thick.
+    void cursor() { arrows(16), thumb(16); }
+    void frame(int width = 1) { slider.Cadre(1, 1, width, kX, right(), kY, top()); }
+    void outline() { slider.Cadre_Outline(kX, right(), kY, top()); }
+    void face(bool on, const DWORD* image) {
+        slider.Fill_Select(on, reinterpret_cast<const char*>(image), slider.Flag, bevel() + 2, kX, right(),
+                           kY, top());
+    }
+    // A Select that paints the face in this look, or none with -1.
+    void select(int look, const char* tag) {
+        trace_in("Sliders::Select", "no name");
+        read_pointer("Sliders::Select");
+        if (look >= 0) face(look == 1, look == 1 ? slider.Image_Select : slider.Image_Normal), cursor();
+        trace_out("Sliders::Select", tag);
+    }
+
+    // Holds one Select against what it should answer and leave.
+    void expect_select(int mode, int answer, int look, const char* tag, int select_after) {
+        SCOPED_TRACE(testing::Message() << "mode " << mode << " flag " << std::hex << slider.Flag);
+        int got = -1;
+        const std::string lines = everything([&] { got = slider.Select(mode); });
+        EXPECT_EQ(lines, everything([&] { select(look, tag); }));
+        EXPECT_EQ(got, answer);
+        EXPECT_EQ(slider.select, select_after);
+    }
+};
+
+const DWORD kAxes[] = {0, OUTIL_VERTICAL};
+
+#endif
