@@ -71,6 +71,7 @@ Model expected_of(const Sliders& s, Act act, int mode, POINT pointer) {
         if (s.Flag & OUTIL_INVISIBLE || (act == Act::Draw && s.Flag & GRAPH_OUTLINE) || !surfaces) break;
         m.select = 0;
         m = after_select(s, m, m.held, pointer);
+        m.answer = 0;
         m.paints = true;
         break;
     default: break;
@@ -189,7 +190,7 @@ TEST_F(SliderLaws, KeepsTheProtocolWithAnyFields) {
 // A drag moves the value the way the pointer goes, and never past an end.
 TEST_F(SliderLaws, DraggingIsMonotonous) {
     const unsigned seed = law_seed();
-    for (int round = 0; round < law_rounds(60) && !HasFailure(); ++round) {
+    for (int round = 0; round < law_rounds(15) && !HasFailure(); ++round) {
         Chance chance(seed + static_cast<unsigned>(round));
         Sliders slider;
         const int length = chance.between(80, 600);
