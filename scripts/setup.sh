@@ -11,7 +11,7 @@ setup_packages() {
     case $1 in
     build) echo "g++ cmake ninja-build pkg-config libsdl2-dev libfreetype-dev libfontconfig-dev libraqm-dev libstb-dev libx11-dev" ;;
     look) echo "libsdl2-2.0-0 fonts-liberation fonts-noto-core fonts-droid-fallback" ;;
-    proofs) echo "clang clang-format libgtest-dev googletest xvfb xdotool python3" ;;
+    proofs) echo "git clang clang-format libgtest-dev googletest xvfb xdotool python3" ;;
     windows) echo "g++-mingw-w64-x86-64-posix wine wine64" ;;
     measures) echo "libbenchmark-dev" ;;
     peers) echo "xvfb libfltk1.3-dev qt6-base-dev" ;;

@@ -19,9 +19,10 @@ TEST(Scripts, EachScriptIsShownInAFaceThatHasIt) {
 }
 
 #ifndef _WIN32
+// Of the fonts that the set-up installs: Bengali, Tamil, Thai, Georgian, Armenian, Ethiopic, Devanagari, a
+// sign.
 TEST(Scripts, FallbackReachesEveryInstalledFace) {
-    // Bengali, Tamil, Thai, Georgian, Armenian, Ethiopic, Hangul, Devanagari, a pictograph.
-    for (const wchar_t* letter : {L"ব", L"த", L"ท", L"ა", L"Ա", L"ሀ", L"한", L"क", L"\U0001F600", L"☺"}) {
+    for (const wchar_t* letter : {L"ব", L"த", L"ท", L"ა", L"Ա", L"ሀ", L"क", L"☺"}) {
         const Picture picture = written(nullptr, letter);
         EXPECT_GT(ink(picture), 8) << letter;
         EXPECT_FALSE(is_box(picture)) << letter;
