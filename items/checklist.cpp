@@ -156,17 +156,21 @@ void lay_check(CheckLists& control, int index, const Place& place) {
 
 // --- Painting ---
 
+void set_clip(const Tools& control) {
+    if (control.Clip_Dim_X)
+        Zeb_set_clip(control.Clip_X, control.Clip_Y, control.Clip_Dim_X, control.Clip_Dim_Y);
+}
+
 // Inside a bracket.
 void write_text(const CheckLists& control, int index, HFONT font, unsigned long color) {
     const Buttons& box = control.Check[index];
     const Buttons& label = control.Label[index];
-    if (control.Clip_Dim_X)
-        Zeb_set_clip(control.Clip_X, control.Clip_Y, control.Clip_Dim_X, control.Clip_Dim_Y);
+    set_clip(control);
     Zeb_Font_Color(color, 0);
-    if (label.Clip_Dim_X) Zeb_set_clip(label.Clip_X, label.Clip_Y, label.Clip_Dim_X, label.Clip_Dim_Y);
+    set_clip(label);
     if (label.W_Name)
         Zeb_Font_Write(font, Px(box.Pos_X) + box.Dim_X + SPACE, Px(box.Pos_Y) - 1, label.W_Name);
-    if (control.Clip_Dim_X) Zeb_reset_clip();
+    if (control.Clip_Dim_X || label.Clip_Dim_X) Zeb_reset_clip();
 }
 
 void write_label(const CheckLists& control, int index, unsigned long color, const char* tag) {

@@ -38,6 +38,8 @@ struct Line {
 // Forgets the log, names, metrics, pointer and picture; the layer's data is as at the start.
 void reset();
 // --- The log ---
+// Lines of other kinds are not kept from now on: for work so large that its log would be what takes the time.
+void listen(unsigned kinds);
 void note(Kind kind, const std::string& line, unsigned code = 0);
 const std::vector<Line>& log();
 void clear();

@@ -53,7 +53,10 @@ void reset() {
     Current_Color = 0;
 }
 
-void note(Kind kind, const std::string& line, unsigned code) { state().lines.push_back({kind, code, line}); }
+void listen(unsigned kinds) { state().heard = kinds; }
+void note(Kind kind, const std::string& line, unsigned code) {
+    if (state().heard & kind) state().lines.push_back({kind, code, line});
+}
 const std::vector<Line>& log() { return state().lines; }
 void clear() { state().lines.clear(); }
 

@@ -66,6 +66,7 @@ static int report(HWND wnd, unsigned code, const std::string& text) {
 } // namespace recorder
 
 int Error_Fct(HWND wnd, unsigned int code, const char* format, ...) {
+    if (!(recorder::state().heard & recorder::kReport)) return 0;
     std::va_list args;
     va_start(args, format);
     const std::string text = recorder::rendered(format, args);
@@ -74,6 +75,7 @@ int Error_Fct(HWND wnd, unsigned int code, const char* format, ...) {
 }
 
 int Error_Fct(HWND wnd, unsigned int code, const wchar_t* format, ...) {
+    if (!(recorder::state().heard & recorder::kReport)) return 0;
     std::va_list args;
     va_start(args, format);
     const std::string text = recorder::rendered(recorder::narrow(format), args);

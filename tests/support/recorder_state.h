@@ -14,6 +14,7 @@ struct Metrics {
 
 struct State {
     std::vector<Line> lines;
+    unsigned heard = kEverything; // kinds of lines that are kept
     std::map<const void*, std::string> names;
     std::map<HFONT, Metrics> metrics;
     Picture* picture = nullptr;
@@ -33,6 +34,7 @@ std::string escaped(const std::string& text); // control characters written out
 // One line of a call: numbers as they are, texts already in their form.
 template <typename... Arguments>
 void call(Kind kind, const char* format, Arguments... arguments) {
+    if (!(state().heard & kind)) return;
     char line[512];
     std::snprintf(line, sizeof line, format, arguments...);
     note(kind, line);
