@@ -19,7 +19,7 @@ inline std::uint32_t* row_at(const Canvas& canvas, int x, int y) {
 // `area` lies within the canvas.
 inline void fill_area(const Canvas& canvas, const Rect& area, std::uint32_t color) {
     if (is_empty(area)) return;
-    if (area.right - area.left == 1) { // the upright sides of bevels: most of what is filled
+    if (area.right - area.left == 1) {             // the upright sides of bevels: most of what is filled
         const std::ptrdiff_t pitch = canvas.pitch; // not read anew after each pixel
         std::uint32_t* pixel = row_at(canvas, area.left, area.top);
         for (int rows = area.bottom - area.top; rows > 0; --rows, pixel += pitch)

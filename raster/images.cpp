@@ -63,11 +63,14 @@ void copy(const Canvas& canvas, const Rect& clip, Point to, const Image& source,
     }
     // Downward within one canvas the lower rows go first, so that none is overwritten before it was read.
     const bool lower_first = source.pixels == canvas.pixels && block.area.top > block.from.y;
-    for (int i = 0; i < rows; ++i) {
-        const int row = lower_first ? rows - 1 - i : i;
-        std::memmove(row_at(canvas, block.area.left, block.area.top + row),
-                     row_of(source, {block.from.x, block.from.y + row}), size);
-    }
+    const int first = lower_first ? rows - 1 : 0;
+    // Worked out before: after each row that is written they would be read from memory again.
+    const std::ptrdiff_t to_step = lower_first ? -canvas.pitch : canvas.pitch;
+    const std::ptrdiff_t from_step = lower_first ? -source.pitch : source.pitch;
+    std::uint32_t* const to_row = row_at(canvas, block.area.left, block.area.top + first);
+    const std::uint32_t* const from_row = row_of(source, {block.from.x, block.from.y + first});
+    for (std::ptrdiff_t i = 0; i < rows; ++i)
+        std::memmove(to_row + i * to_step, from_row + i * from_step, size);
 }
 
 void blend(const Canvas& canvas, const Rect& clip, Point to, const Image& source, Point from, int width,
