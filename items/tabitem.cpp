@@ -30,14 +30,25 @@ constexpr unsigned long OUTLINE_BLUE = 0xE64040;
 
 int resolved_border(const TabItems& tab) { return tab.Border < 0 ? -Px(tab.Border) : Px(bevel_width(tab)); }
 
-// A tab shows the host's surfaces or none.
+// The views on one side's surface. A tab shows the host's surfaces or none; without a change of its shape it
+// only lets go of one that the host has replaced.
+void choose_views(TabItems& tab, const Host_Surfaces::Side& side, bool reshaped,
+                  std::initializer_list<DWORD**> views) {
+    DWORD* const graph = tab.*side.graph;
+    for (DWORD** view : views) {
+        *view = Host_Surfaces::current(tab, side, *view);
+        if (reshaped || !graph || (*view && *view == tab.*side.old)) *view = graph;
+    }
+}
+
 void choose_surfaces(TabItems& tab) {
     const bool reshaped =
         tab.Dim_X != tab.Old_Dim_X || tab.Dim_Y != tab.Old_Dim_Y || tab.Border != tab.Old_Border;
-    if (reshaped || !tab.Graph_Normal)
-        tab.Image_Normal = tab.Image_Normal_On = tab.Image_Normal_Off = tab.Graph_Normal;
-    if (reshaped || !tab.Graph_Select)
-        tab.Image_Select = tab.Image_Select_On = tab.Image_Select_Off = tab.Graph_Select;
+    choose_views(tab, Host_Surfaces::NORMAL, reshaped,
+                 {&tab.Image_Normal, &tab.Image_Normal_On, &tab.Image_Normal_Off});
+    choose_views(tab, Host_Surfaces::SELECT, reshaped,
+                 {&tab.Image_Select, &tab.Image_Select_On, &tab.Image_Select_Off});
+    remember_surfaces(tab);
 }
 
 void choose_images(TabItems& tab) {

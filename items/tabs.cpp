@@ -84,7 +84,7 @@ Layout layout_of(const Tabs& tabs, int count) {
     return {overlap, width, Px(tabs.Pos_X) + 4 * Px(SPACE), room - Px(count) * width};
 }
 
-void lay_tab(const Tabs& tabs, int index, const Layout& layout) {
+void lay_tab(const Tabs& tabs, int index, const Layout& layout, bool last) {
     TabItems& tab = *tabs.Item[index];
     if (tabs.Flag & OUTIL_EMPTY) tab.Flag |= tabs.Flag & (OUTIL_EMPTY | OUTIL_FLAT);
     tab.Cur_Value = index == tabs.Cur_Value;
@@ -98,7 +98,7 @@ void lay_tab(const Tabs& tabs, int index, const Layout& layout) {
     tab.Font_Slant = tabs.Font_Slant;
     tab.Font_Size = tabs.Font_Size;
     if (tab.Color_Get() == 0) tab.Color = tabs.Color;
-    if (index == count_of(tabs) - 1) tab.Dim_X = tab.Dim_X + layout.rest;
+    if (last) tab.Dim_X = tab.Dim_X + layout.rest;
     tab.Init(tabs.Wnd);
 }
 
@@ -192,7 +192,7 @@ void Tabs::Init(HWND wnd) {
     First_X = layout.first;
     Tab_Width = layout.width;
     for (int i = 0; i < NbItem; i++)
-        lay_tab(*this, i, layout);
+        lay_tab(*this, i, layout, i == NbItem - 1);
     Old_Dim_X = Dim_X;
     Old_Dim_Y = Dim_Y;
     Old_Border = Border;
@@ -217,7 +217,7 @@ void Tabs::Draw() {
     if (too_small(*this)) return;
     Old_Value = Cur_Value;
     for (int i = count_of(*this) - 1; i >= 0; i--)
-        mark(*this, i, i == Cur_Value);
+        Item[i]->Cur_Value = i == Cur_Value;
     Repaint();
 }
 

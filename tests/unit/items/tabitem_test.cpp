@@ -165,6 +165,15 @@ TEST_F(Tab, HostsSurfacesServeBothValues) {
     }
 }
 
+TEST_F(Tab, ASurfaceGivenLaterWaitsForAChangeOfShape) {
+    tab.Alloc_Graph_Normal(1);
+    tab.Init(nullptr);
+    EXPECT_EQ(tab.Image_Normal_On, nullptr);
+    tab.Border = 5;
+    tab.Init(nullptr);
+    EXPECT_EQ(tab.Image_Normal_On, tab.Graph_Normal);
+}
+
 TEST_F(Tab, AnEmptyTabTakesNoSurface) {
     tab.Flag |= OUTIL_EMPTY;
     tab.Alloc_Graph_Normal(1);
@@ -178,6 +187,7 @@ TEST_F(Tab, AnEmptyTabTakesNoSurface) {
 TEST_F(Tab, ViewsOfItsOwnForEachValue) {
     tab.Alloc_Graph_Normal(1);
     tab.Alloc_Graph_Select(2);
+    tab.Old_Dim_X = 0;
     tab.Init(nullptr);
     tab.Image_Normal_On = tab.Image_Select_Off = tab.Graph_Select;
     tab.Image_Select_On = tab.Image_Normal_Off = tab.Graph_Normal;
@@ -210,7 +220,12 @@ TEST_F(Tab, SurfacesMadeAnewLeaveNoViewDangling) {
     for (const bool again : {false, true}) {
         tab.Alloc_Graph_Normal(1);
         tab.Alloc_Graph_Select(2);
-        if (again) tab.Init(nullptr);
+        if (!again) tab.Old_Dim_X = 0; // the first time they are taken for the size
+        tab.Init(nullptr);
+        operate();
+        tab.Alloc_Graph_Normal(3);
+        tab.Alloc_Graph_Select(4);
+        if (again) tab.Alloc_Graph_Normal(5);
         operate();
         tab.Init(nullptr);
         operate();
@@ -281,7 +296,7 @@ TEST_F(Tab, OutlineIsAFilledTrapezoid) {
     } const rows[] = {{Colors(19, 20, 21), 0x010000},
                       {Colors(300, -5, 275), 0xFF00FF},
                       {Colors(274, 100, 0, 128), 0x800050FE},
-                      {Colors(-32768, 32767, 0), 0x00FF00}};
+                      {Colors(-32000, 32767, 0), 0x00FF00}};
     for (const auto& row : rows) {
         tab.Color = row.color;
         EXPECT_EQ(everything([&] { tab.Cadre_Outline(10, 90, 20, 44); }),
@@ -461,7 +476,9 @@ TEST_F(Tab, DrawShowsTheSurfacesOfItsValue) {
 TEST_F(Tab, ASurfaceOfAnotherSizeIsNotRead) {
     tab.Alloc_Graph_Normal(1);
     tab.Alloc_Graph_Select(1);
+    tab.Old_Dim_X = 0;
     tab.Init(nullptr);
+    EXPECT_NE(painted([&] { tab.Draw(); }).find("draw_image"), std::string::npos);
     tab.Dim_X = 100, tab.Dim_Y = 60;
     for (const bool over : {false, true}) {
         over ? inside() : outside();
