@@ -32,7 +32,7 @@ void change(Valuators& bar, Chance& chance) {
     case 7: bar.Cur_Value = any_float(chance); break;
     case 8: bar.Step = any_float(chance); break;
     case 9: bar.Larg = any_int(chance), bar.Num_Width = any_int(chance); break;
-    case 10: bar.Border = chance.of({0, 0, 1, 3, 40, -1, -7, INT_MIN, INT_MAX}); break;
+    case 10: bar.Border = chance.of({0, 0, 1, 3, 40, -1, -7, INT_MIN}); break;
     case 11: bar.Format = chance.of<const char*>({nullptr, "%f", "%.3g", "%s%n", "plain", "%900f"}); break;
     case 12: bar.Table_Size = any_int(chance); break;
     case 13: bar.select = chance.between(0, 2), bar.Held = chance.between(0, 1); break;
