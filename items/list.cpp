@@ -241,7 +241,8 @@ void Lists::Init(HWND wnd) {
     remember_size(*this);
 }
 
-// Whole items only: one that is partly in view is not painted, and the ground covers what was there.
+// Whole items only: one that is partly in view is not painted, and the ground covers what was there. All
+// items are placed, of which there may be very many: nothing else of those out of view is touched.
 void Lists::Update() {
     Trace trace("Lists::Update", *this);
     if (too_small(*this)) return trace.out("< 0");
@@ -250,15 +251,20 @@ void Lists::Update() {
     paint_ground(*this, view);
     if (has_slider(*this)) (Step_X ? First_X : First_Y) = slider_place(*this);
     if (Flag & GRAPH_OUTLINE) return;
-    const int count = count_of(*this);
-    for (int i = 0; i < count; i++) {
+    for (int i = Shown_Begin; i < std::min(Shown_End, NbItem) && Item && Item[i]; i++)
+        Item[i]->Shown = 0;
+    const Rows rows = rows_in(*this, view);
+    for (int i = 0; i < NbItem && Item && Item[i]; i++) {
         Buttons& item = *Item[i];
         place_item(*this, i);
+        if (i < rows.begin || i >= rows.end) continue;
         item.Shown = lies_within(item, view);
         if (!item.Shown) continue;
         item.Init(Wnd);
         item.Draw();
     }
+    Shown_Begin = rows.begin;
+    Shown_End = rows.end;
 }
 
 void Lists::Draw() {
@@ -272,6 +278,7 @@ void Lists::Draw() {
     const int count = count_of(*this);
     for (int i = 0; i < count; i++)
         Item[i]->Cur_Value = i == Cur_Value;
+    Shown_Begin = 0, Shown_End = count; // whatever they were
     Update();
 }
 

@@ -134,12 +134,6 @@ bool lies_within(const Tools& item, const Area& area) {
            Px(item.Pos_Y) + item.Dim_Y <= area.y2;
 }
 
-void place_item(const Lists& list, int index) {
-    Buttons& item = *list.Item[index];
-    item.Pos_X = list.First_X + Px(list.Step_X) * index;
-    item.Pos_Y = list.First_Y + Px(list.Step_Y) * index;
-}
-
 Rows rows_in(const Lists& list, const Area& area) {
     const Rows rows =
         list.Step_X ? rows_between(list, area.x1, area.x2) : rows_between(list, area.y1, area.y2);

@@ -45,7 +45,11 @@ Area list_tracking(const Lists& list, const List_Sizes& sizes);
 bool lies_within(const Tools& item, const Area& area);
 
 // Where an item is as the list is scrolled now.
-void place_item(const Lists& list, int index);
+inline void place_item(const Lists& list, int index) {
+    Buttons& item = *list.Item[index];
+    item.Pos_X = list.First_X + Px(list.Step_X) * index;
+    item.Pos_Y = list.First_Y + Px(list.Step_Y) * index;
+}
 
 // The items, from `begin` to before `end`, whose position may lie between the far ends of an area; only these
 // need be looked at.

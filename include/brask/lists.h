@@ -77,6 +77,8 @@ class BRASK_API Lists : public Tools {
   private:
     void Update();
     bool Scrolls(int event);
+
+    int Shown_Begin, Shown_End; // no item outside of these has Shown set
 };
 
 #endif
