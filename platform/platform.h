@@ -20,6 +20,8 @@
 #include "portable/input.h"
 
 #include "portable/process.h"
+
+#include "portable/global_memory.h"
 #endif
 
 #endif
