@@ -68,14 +68,10 @@ Place inside_of(const Color_Edit& editor, int font_height) {
 
 void place_frame(Color_Edit& editor, HWND wnd) {
     Boxs& frame = editor.Box_Frame;
-    if (editor.W_Name)
-        frame.Name_Set(L"%ls", editor.W_Name);
-    else
-        frame.Name_Set(nullptr);
+    lend_name(editor, frame);
     lend_clip(editor, frame);
-    lend_color(editor, frame);
-    lend_whole_font(editor, frame);
-    put(frame, {editor.Pos_X, editor.Pos_Y, editor.Dim_X, editor.Dim_Y});
+    lay_around(editor, frame);
+    frame.Font_Slant = editor.Font_Slant;
     frame.Border = bevel_size(editor);
     frame.Flag = (editor.Flag & (OUTIL_INVISIBLE | OUTIL_EMPTY | GRAPH_OUTLINE)) | OUTIL_DISABLE | OUTIL_FLAT;
     frame.Init(wnd);

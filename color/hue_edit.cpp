@@ -29,9 +29,7 @@ Place inside_of(const Hue_Edit& editor) {
 void place_frame(Hue_Edit& editor, HWND wnd) {
     Boxs& frame = editor.Box_Frame;
     lend_clip(editor, frame);
-    lend_color(editor, frame);
-    lend_font(editor, frame); // without the slant, on purpose, here and on the bar
-    put(frame, {editor.Pos_X, editor.Pos_Y, editor.Dim_X, editor.Dim_Y});
+    lay_around(editor, frame); // without the font's slant, on purpose, here and on the bar
     frame.Border = part_bevel(editor);
     frame.Flag = (editor.Flag & (GRAPH_OUTLINE | OUTIL_FLAT)) | OUTIL_DISABLE;
     frame.Init(wnd);

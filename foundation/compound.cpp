@@ -33,6 +33,19 @@ void lend_whole_font(const Tools& whole, Tools& part) {
     part.Font_Slant = whole.Font_Slant;
 }
 
+void lend_name(const Tools& whole, Tools& part) {
+    if (whole.W_Name)
+        part.Name_Set(L"%ls", whole.W_Name);
+    else
+        part.Name_Set(nullptr);
+}
+
+void lay_around(const Tools& whole, Tools& frame) {
+    put(frame, {whole.Pos_X, whole.Pos_Y, whole.Dim_X, whole.Dim_Y});
+    lend_color(whole, frame);
+    lend_font(whole, frame);
+}
+
 int length_or(int length, int standard) {
     if (!length) return standard;
     return length < 0 ? -Px(length) : Px(length);

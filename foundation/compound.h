@@ -19,6 +19,10 @@ void lend_clip(const Tools& whole, Tools& part);
 void lend_color(const Tools& whole, Tools& part);
 void lend_font(const Tools& whole, Tools& part);
 void lend_whole_font(const Tools& whole, Tools& part);
+// The name, as text whatever it holds; or none.
+void lend_name(const Tools& whole, Tools& part);
+// What a frame has that stands around the whole: its place, colour and font apart from its slant.
+void lay_around(const Tools& whole, Tools& frame);
 
 // Names a part by a text that may hold anything: it is the format itself, without arguments, so that a
 // conversion in it prints nothing.

@@ -79,14 +79,10 @@ Check_Widths measure(CheckLists& control, const Check_Labels& labels) {
 
 void lay_frame(CheckLists& control, HWND wnd) {
     Boxs& box = control.Box;
-    if (control.W_Name)
-        box.Name_Set(L"%ls", control.W_Name);
-    else
-        box.Name_Set(nullptr);
+    lend_name(control, box);
     lend_clip(control, box);
-    put(box, {control.Pos_X, control.Pos_Y, control.Dim_X, control.Dim_Y});
-    lend_color(control, box);
-    lend_whole_font(control, box);
+    lay_around(control, box);
+    box.Font_Slant = control.Font_Slant;
     box.Border = control.Border;
     box.Flag = (control.Flag & BOX_MASK) | OUTIL_DISABLE;
     box.Init(wnd);

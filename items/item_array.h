@@ -16,6 +16,11 @@ namespace brask {
 // The flags of a control that pass to its items.
 inline constexpr DWORD LIST_ITEM_MASK = 0xF127750;
 
+// Those of a new item that is a button, of what the host gives to Grow.
+inline DWORD button_flags(const Tools& control, int given) {
+    return (given ? static_cast<DWORD>(given) : control.Flag & LIST_ITEM_MASK) | CADRE_NO_LINE;
+}
+
 // Entries up to the null entry, and in the second form up to `limit`, whichever comes first.
 template <typename Item>
 int item_count(Item* const* items) {

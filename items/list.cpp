@@ -60,13 +60,8 @@ Measures measure(const Lists& list) {
 // Never reacts: the list tracks its items only.
 void lay_box(Lists& list, HWND wnd) {
     Boxs& box = list.Box;
-    if (list.W_Name)
-        box.Name_Set(L"%ls", list.W_Name);
-    else
-        box.Name_Set(nullptr);
-    put(box, {list.Pos_X, list.Pos_Y, list.Dim_X, list.Dim_Y});
-    lend_color(list, box);
-    lend_font(list, box);
+    lend_name(list, box);
+    lay_around(list, box);
     box.Border = list.Border;
     box.Flag = (list.Flag & (OUTIL_INVISIBLE | OUTIL_EMPTY | GRAPH_OUTLINE)) | OUTIL_FLAT | OUTIL_DISABLE;
     box.Clip_X = list.Clip_X ? list.Clip_X : list.Pos_X;
@@ -202,7 +197,7 @@ Lists::~Lists() {
 
 int Lists::Grow(int n, int flag) {
     const Grow_Source source = {"list", 155, 158};
-    const DWORD flags = (flag ? static_cast<DWORD>(flag) : Flag & LIST_ITEM_MASK) | CADRE_NO_LINE;
+    const DWORD flags = button_flags(*this, flag);
     const int done = grow_items(Item, n, source, [this, flags](Buttons& item) {
         item.Flag = flags;
         lend_clip(Box, item);

@@ -3,8 +3,6 @@
 #include <cstdint>
 #include <cstring>
 
-#include <brask/fonts.h>
-
 #include "foundation/bracket.h"
 #include "foundation/checks.h"
 #include "foundation/layout.h"
@@ -28,10 +26,10 @@ bool skipped(const Selects& control) {
 }
 
 // One step forward or backward, over the choices that are skipped; where all are, it ends after one round.
-void step(Selects& control, int by) {
+void step(Selects& control, std::int64_t by) {
     const int count = count_of(control);
     for (int steps = 0; steps < count; steps++) {
-        const std::int64_t next = std::int64_t{control.Cur_Value} + by;
+        const std::int64_t next = control.Cur_Value + by;
         control.Cur_Value = next >= count ? 0 : next < 0 ? count - 1 : static_cast<int>(next);
         if (!skipped(control)) return;
     }
@@ -42,44 +40,23 @@ void leave_skipped(Selects& control) {
     if (in_range(control) && skipped(control)) step(control, 1);
 }
 
+// Without the name, which Update writes itself.
 void lay_box(Selects& control, HWND wnd) {
     Boxs& box = control.Box;
-    box.Clip_X = control.Clip_X;
-    box.Clip_Y = control.Clip_Y;
-    box.Clip_Dim_X = control.Clip_Dim_X;
-    box.Clip_Dim_Y = control.Clip_Dim_Y;
-    box.Pos_X = control.Pos_X;
-    box.Pos_Y = control.Pos_Y;
-    box.Dim_X = control.Dim_X;
-    box.Dim_Y = control.Dim_Y;
-    box.Color = control.Color;
+    lend_clip(control, box);
+    lay_around(control, box);
     box.Border = control.Border;
-    box.Font_Size = control.Font_Size;
-    box.Font_Weight = control.Font_Weight;
-    box.Font_Name = control.Font_Name;
     box.Flag = (control.Flag & BOX_MASK) | OUTIL_DISABLE;
     box.Init(wnd);
 }
 
 Name_Size measure_name(const Selects& control) {
     if (!control.W_Name) return {0, 0, 0};
-    const HFONT font = Zeb_Create_Font(control.Wnd, control.Font_Name, control.Font_Weight,
-                                       control.Font_Slant, control.Font_Size);
+    const HFONT font = font_of(control);
     Setup setup(control.Wnd, "Selects::Init");
     const int width = Zeb_Font_Size_String(font, control.W_Name);
     const int letter = Zeb_Font_Size_String(font, "X");
     return {width, letter, Zeb_Font_Size_Height(font)};
-}
-
-void place(Tools& part, const Place& at, const Selects& control) {
-    part.Pos_X = at.x;
-    part.Pos_Y = at.y;
-    part.Dim_X = at.dx;
-    part.Dim_Y = at.dy;
-    part.Clip_X = control.Clip_X;
-    part.Clip_Y = control.Clip_Y;
-    part.Clip_Dim_X = control.Clip_Dim_X;
-    part.Clip_Dim_Y = control.Clip_Dim_Y;
 }
 
 // All items lie on one rectangle and are drawn pressed, so that the value shows as a sunken field.
@@ -88,11 +65,9 @@ void lay_item(const Selects& control, Buttons& item, const Place& at) {
     if (control.Flag & OUTIL_EMPTY) item.Flag |= control.Flag & LIST_ITEM_MASK;
     item.Border = 1;
     item.Cur_Value = 1;
-    place(item, at, control);
-    item.Font_Name = control.Font_Name;
-    item.Font_Weight = control.Font_Weight;
-    item.Font_Slant = control.Font_Slant;
-    item.Font_Size = control.Font_Size;
+    put(item, at);
+    lend_clip(control, item);
+    lend_whole_font(control, item);
     item.Init(control.Wnd);
 }
 
@@ -129,10 +104,10 @@ Selects::~Selects() {
 
 int Selects::Grow(int n, int flag) {
     const Grow_Source source = {"select", 247, 250};
-    const DWORD flags = (flag ? static_cast<DWORD>(flag) : Flag & LIST_ITEM_MASK) | CADRE_NO_LINE;
+    const DWORD flags = button_flags(*this, flag);
     const int done = grow_items(Item, n, source, [this, flags](Buttons& item) {
-        place(item, {0, 0, 0, 0}, *this);
         item.Flag = flags;
+        lend_clip(*this, item);
     });
     if (done) NbItem = item_count(Item);
     return done;
@@ -148,7 +123,8 @@ void Selects::Init(HWND wnd) {
     set_region(*this);
     lay_box(*this, wnd);
     if (!Arrow_Dim) Arrow_Dim = select_arrow(*this);
-    place(Zone, select_zone(*this, measure_name(*this)), *this);
+    put(Zone, select_zone(*this, measure_name(*this)));
+    lend_clip(*this, Zone);
     NbItem = item_count(Item);
     if (!in_range(*this)) Cur_Value = 0;
     Old_Value = Cur_Value;
@@ -156,9 +132,7 @@ void Selects::Init(HWND wnd) {
     const Place value = select_value(*this);
     for (int i = 0; i < NbItem; i++)
         lay_item(*this, *Item[i], value);
-    Old_Dim_X = Dim_X;
-    Old_Dim_Y = Dim_Y;
-    Old_Border = Border;
+    remember_size(*this);
 }
 
 // All items share one rectangle and the face is painted first, so the old item needs no erasing.
@@ -250,7 +224,7 @@ int Selects::Scroll(int delta) {
     check_first_use(*this, "Selects::Scroll");
     if (too_small(*this) || Flag & OUTIL_DISABLE) return Cur_Value;
     if (!count_of(*this)) return 0;
-    step(*this, delta == INT32_MIN ? INT32_MAX : -delta); // beyond an end it goes to the other one, not round
+    step(*this, -std::int64_t{delta}); // beyond an end it goes to the other one, not round
     Update();
     return Cur_Value;
 }

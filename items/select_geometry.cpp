@@ -33,8 +33,8 @@ int select_arrow(const Selects& control) {
 
 Place select_zone(const Selects& control, const Name_Size& name) {
     Place zone = beside_name(control, name);
-    zone.dx = std::max(zone.dx, 0);
-    zone.dy = std::max(zone.dy, 0);
+    zone.width = std::max(zone.width, 0);
+    zone.height = std::max(zone.height, 0);
     return zone;
 }
 
@@ -42,11 +42,11 @@ Place select_value(const Selects& control) {
     const Px end = Px(control.Arrow_Dim) + padding(control);
     Place value = {control.Zone.Pos_X, control.Zone.Pos_Y, control.Zone.Dim_X, control.Zone.Dim_Y};
     int& start = vertical(control) ? value.y : value.x;
-    int& length = vertical(control) ? value.dy : value.dx;
+    int& length = vertical(control) ? value.height : value.width;
     start = Px(start) + end;
     length = Px(length) - 2 * end;
-    value.dx = std::max(value.dx, 0);
-    value.dy = std::max(value.dy, 0);
+    value.width = std::max(value.width, 0);
+    value.height = std::max(value.height, 0);
     return value;
 }
 

@@ -3,13 +3,11 @@
 
 #include <brask/selects.h>
 
+#include "foundation/compound.h"
+
 namespace brask {
 
 // The rectangles of a spinner: painting, hit test and tests go by the same ones.
-
-struct Place {
-    int x, y, dx, dy;
-};
 
 // What the name takes, in the control's font; all 0 without a name.
 struct Name_Size {

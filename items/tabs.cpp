@@ -4,6 +4,7 @@
 
 #include "foundation/bracket.h"
 #include "foundation/checks.h"
+#include "foundation/compound.h"
 #include "foundation/layout.h"
 #include "foundation/pixels.h"
 #include "foundation/track.h"
@@ -61,14 +62,7 @@ void shape_tabs(const Tabs& tabs) {
 // The box behind the strip is kept in step but never painted.
 void lay_box(Tabs& tabs, HWND wnd) {
     Boxs& box = tabs.Box;
-    box.Pos_X = tabs.Pos_X;
-    box.Pos_Y = tabs.Pos_Y;
-    box.Dim_X = tabs.Dim_X;
-    box.Dim_Y = tabs.Dim_Y;
-    box.Color = tabs.Color;
-    box.Font_Size = tabs.Font_Size;
-    box.Font_Weight = tabs.Font_Weight;
-    box.Font_Name = tabs.Font_Name;
+    lay_around(tabs, box);
     box.Flag = (tabs.Flag & (GRAPH_OUTLINE | OUTIL_EMPTY | OUTIL_FLAT | OUTIL_INVISIBLE)) | OUTIL_DISABLE;
     box.Init(wnd);
 }
@@ -88,17 +82,11 @@ void lay_tab(const Tabs& tabs, int index, const Layout& layout, bool last) {
     TabItems& tab = *tabs.Item[index];
     if (tabs.Flag & OUTIL_EMPTY) tab.Flag |= tabs.Flag & (OUTIL_EMPTY | OUTIL_FLAT);
     tab.Cur_Value = index == tabs.Cur_Value;
-    tab.Dim_X = layout.width;
-    tab.Dim_Y = tabs.Dim_Y;
-    tab.Pos_X = layout.first + (layout.width - layout.overlap) * index;
-    tab.Pos_Y = tabs.Pos_Y;
+    put(tab, {layout.first + (layout.width - layout.overlap) * index, tabs.Pos_Y,
+              last ? layout.width + layout.rest : layout.width, tabs.Dim_Y});
     tab.Slant = layout.overlap;
-    tab.Font_Name = tabs.Font_Name;
-    tab.Font_Weight = tabs.Font_Weight;
-    tab.Font_Slant = tabs.Font_Slant;
-    tab.Font_Size = tabs.Font_Size;
+    lend_whole_font(tabs, tab);
     if (tab.Color_Get() == 0) tab.Color = tabs.Color;
-    if (last) tab.Dim_X = tab.Dim_X + layout.rest;
     tab.Init(tabs.Wnd);
 }
 
@@ -193,9 +181,7 @@ void Tabs::Init(HWND wnd) {
     Tab_Width = layout.width;
     for (int i = 0; i < NbItem; i++)
         lay_tab(*this, i, layout, i == NbItem - 1);
-    Old_Dim_X = Dim_X;
-    Old_Dim_Y = Dim_Y;
-    Old_Border = Border;
+    remember_size(*this);
 }
 
 void Tabs::Update() {
