@@ -14,7 +14,7 @@ target_link_libraries(brask PUBLIC brask_headers platform_names)
 target_compile_options(brask PRIVATE $<$<CONFIG:Release>:-O2>)
 target_compile_definitions(brask PUBLIC BRASK_STATIC FENN_STATIC)
 target_include_directories(brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
-                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console)
+                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console ${HOUSE_FLOORS}/browser)
 
 add_library(fenn STATIC ${fenn_sources})
 target_link_libraries(fenn PUBLIC brask_headers platform raster text PRIVATE fenn_system)
@@ -25,7 +25,7 @@ target_include_directories(fenn PUBLIC ${HOUSE_FLOORS}/fenn)
 if(WIN32)
   add_library(Lib_Brask SHARED ${brask_sources} $<TARGET_OBJECTS:text>)
   target_include_directories(Lib_Brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
-                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console)
+                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console ${HOUSE_FLOORS}/browser)
   target_link_libraries(Lib_Brask PUBLIC brask_headers platform_names)
   add_library(Lib_Fenn SHARED ${fenn_sources} $<TARGET_OBJECTS:text> $<TARGET_OBJECTS:raster>)
   target_include_directories(Lib_Fenn PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/raster ${HOUSE_FLOORS}/fenn)

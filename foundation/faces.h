@@ -1,6 +1,8 @@
 #ifndef FOUNDATION_FACES_H
 #define FOUNDATION_FACES_H
 
+#include <cstdint>
+
 #include <brask/tools.h>
 
 namespace brask {
@@ -21,6 +23,8 @@ struct Look {
 // The look that a control would give to a face of this colour.
 Look look_of(const Tools& control, const Colors& color);
 
+// 256 MB, several times the largest screen: no surface has more pixels.
+inline constexpr std::int64_t MOST_PIXELS = 1 << 26;
 // A block for so many pixels from malloc; null when memory fails, for less than one pixel, and for more than
 // any screen has.
 DWORD* surface_block(int width, int height);

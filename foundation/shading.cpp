@@ -14,8 +14,6 @@ namespace brask {
 
 namespace {
 
-constexpr std::int64_t MOST_PIXELS = 1 << 26; // 256 MB, several times the largest screen
-
 constexpr std::int64_t WIDEST_INSET = 1 << 30; // twice that leaves nothing of any surface
 
 constexpr int SPAN = 100; // of the shading along each axis, so that opposite corners differ by twice that

@@ -21,6 +21,8 @@
 
 #include "portable/process.h"
 
+#include "portable/files.h"
+
 #include "portable/global_memory.h"
 #endif
 

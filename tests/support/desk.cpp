@@ -1,6 +1,9 @@
 #include "desk.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <mutex>
+#include <utility>
 
 #include "recorder.h"
 
@@ -13,6 +16,7 @@ struct State {
     std::vector<Made> fonts;
     int dpi_x = 96, dpi_y = 96;
     bool refuse = false;
+    HGDIOBJ selected = nullptr;
 };
 static State state;
 static std::uintptr_t fonts_made = 0; // goes on over resets: the library's cache remembers old handles
@@ -32,8 +36,16 @@ HCURSOR own_cursor(int number) {
     return handle;
 }
 
+static int pen_blocks[2]; // the one that a context starts with, and the one that is made
+static HPEN pen(int number) {
+    const auto handle = reinterpret_cast<HPEN>(&pen_blocks[number]);
+    recorder::name(handle, number ? "pen" : "standard pen");
+    return handle;
+}
+
 void reset() {
     state = State();
+    state.selected = pen(0);
     state.shown = own_cursor(0);
 }
 
@@ -118,6 +130,24 @@ DESK_FUNCTION(BOOL, DeleteObject, HGDIOBJ object) {
     return TRUE;
 }
 
+DESK_FUNCTION(HPEN, CreatePen, int style, int width, COLORREF color) {
+    note("CreatePen(" + std::to_string(style) + ", " + std::to_string(width) + ", " + std::to_string(color) +
+         ")");
+    return desk::pen(1);
+}
+
+DESK_FUNCTION(HGDIOBJ, SelectObject, HDC dc, HGDIOBJ object) {
+    note("SelectObject(" + named(dc) + ", " + named(object) + ")");
+    return std::exchange(desk::state.selected, object);
+}
+
+DESK_FUNCTION(BOOL, AngleArc, HDC dc, int x, int y, DWORD radius, FLOAT start, FLOAT sweep) {
+    note("AngleArc(" + named(dc) + ", " + std::to_string(x) + ", " + std::to_string(y) + ", " +
+         std::to_string(radius) + ", " + std::to_string(static_cast<int>(start)) + ", " +
+         std::to_string(static_cast<int>(sweep)) + ")");
+    return TRUE;
+}
+
 DESK_FUNCTION(int, GetDeviceCaps, HDC dc, int index) {
     note("GetDeviceCaps(" + named(dc) + ", " + std::to_string(index) + ")");
     return index == LOGPIXELSX ? desk::state.dpi_x : index == LOGPIXELSY ? desk::state.dpi_y : 0;
@@ -153,6 +183,13 @@ DESK_FUNCTION(BOOL, DPtoLP, HDC dc, LPPOINT points, int count) {
 }
 
 #ifndef _WIN32
+// A file of the system, whose path may have drive C in front.
+extern "C" std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode) {
+    std::string native = recorder::narrow(path[0] && path[1] == L':' ? path + 2 : path);
+    std::replace(native.begin(), native.end(), '\\', '/');
+    return std::fopen(native.c_str(), recorder::narrow(mode).c_str());
+}
+
 extern "C" BOOL SetRect(RECT* rect, int left, int top, int right, int bottom) {
     *rect = {left, top, right, bottom};
     return TRUE;

@@ -7,11 +7,11 @@
 #include <brask/platform.h>
 
 // A double of the platform's functions that the controls call, so that a test program needs neither a
-// desktop nor the platform. Calls are noted in the recorder's log, apart from SetRect and PtInRect, and off
-// Windows so are those of the critical section.
+// desktop nor the platform. Calls are noted in the recorder's log, apart from SetRect, PtInRect and _wfopen,
+// which opens real files; off Windows so are those of the critical section.
 //
-// On Windows the double takes the place of the imported functions; rectangles and the critical section are
-// the system's own there.
+// On Windows the double takes the place of the imported functions; rectangles, files and the critical section
+// are the system's own there.
 namespace desk {
 
 void reset(); // keys up, the arrow shown, 96 dots per inch, fonts granted; numbers of fonts go on

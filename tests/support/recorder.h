@@ -64,10 +64,19 @@ std::string narrow(const wchar_t* text); // UTF-8
 void pointer(int x, int y); // window pixels, Y upward
 void metrics(HFONT font, int height, int width);
 
+// --- Files: what the readers of pictures deliver; any other path gives none, with this as the reason ---
+struct File {
+    int width, height, channels;
+    std::vector<unsigned char> bytes; // top row first
+};
+void file(const std::wstring& path, const File& file);
+void reason(int number);
+int held(); // pictures that were delivered and not given back yet
+
 // --- The rules of the bracket ---
 // Called at each breach; the start prints and aborts.
 void on_breach(void (*handler)(const char* what));
-bool open(); // inside a bracket now
+bool open(); // inside a bracket now, or stepped out of one
 
 // --- A picture behind the lines; null for none ---
 void paint_on(Picture* picture);

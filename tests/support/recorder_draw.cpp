@@ -35,6 +35,8 @@ using namespace recorder;
 void Zeb_setup(HWND wnd, const char* tag) {
     if (state().open) breach("Zeb_setup inside of another");
     if (state().measuring) breach("Zeb_setup between Zeb_GetDC and Zeb_ReleaseDC");
+    if (state().stepped_out && std::string(tag) != "Icon_Read") breach("Zeb_release with the clip left set");
+    state().stepped_out = false;
     note(kDraw, "Zeb_setup(" + named(wnd) + ", \"" + (tag ? tag : "(null)") + "\")");
     state().open = true;
     state().clipped = false;
@@ -45,8 +47,8 @@ void Zeb_setup(HWND wnd, const char* tag) {
 
 void Zeb_release() {
     inside("Zeb_release");
-    if (state().clipped) breach("Zeb_release with the clip left set");
     note(kDraw, "Zeb_release()");
+    state().stepped_out = state().clipped;
     state().open = false;
     Zeb_DC = nullptr;
 }

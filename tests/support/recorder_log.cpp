@@ -29,7 +29,7 @@ static void (*breach_handler)(const char*) = abort_at_breach;
 void on_breach(void (*handler)(const char*)) { breach_handler = handler; }
 void breach(const std::string& what) { breach_handler(what.c_str()); }
 
-bool open() { return state().open; }
+bool open() { return state().open || state().stepped_out; }
 
 static HWND handle(int number) {
     return reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x1000 * number));
@@ -51,6 +51,7 @@ void reset() {
     hwnd = nullptr;
     Zeb_DC = nullptr;
     Current_Color = 0;
+    W_Inst_Path = nullptr;
 }
 
 void listen(unsigned kinds) { state().heard = kinds; }

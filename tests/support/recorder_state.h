@@ -23,8 +23,12 @@ struct State {
     bool open = false;  // between Zeb_setup and Zeb_release
     bool blind = false; // the bracket's window is null: nothing is painted
     bool clipped = false;
-    bool measuring = false; // between Zeb_GetDC and Zeb_ReleaseDC
+    bool stepped_out = false; // released with the clip set: only the reading of icons may, which comes back
+    bool measuring = false;   // between Zeb_GetDC and Zeb_ReleaseDC
     unsigned long text_color = 1;
+    std::map<std::wstring, File> files;
+    int reason = 2; // ENOENT
+    int held = 0;
 };
 
 State& state();

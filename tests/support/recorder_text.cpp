@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <cerrno>
 #include <cwchar>
 #include <cwctype>
 
@@ -117,16 +119,41 @@ void Get_Generic_Name(char* path, char* folder, char* file, char* bare) {
     copy(bare, name.substr(0, name.rfind('.')));
 }
 
-// No file exists for the recorder.
-int IGB_Read_Image(const wchar_t* file, IGB_data*, void*) {
-    note(kService, "IGB_Read_Image(" + quoted(file) + ")");
-    return 0;
+namespace recorder {
+
+void file(const std::wstring& path, const File& file) { state().files[path] = file; }
+void reason(int number) { state().reason = number; }
+int held() { return state().held; }
+
+static int deliver(const char* operation, const wchar_t* path, IGB_data* image) {
+    note(kService, std::string(operation) + "(" + quoted(path) + ")");
+    const auto found = state().files.find(path);
+    errno = state().reason;
+    if (found == state().files.end()) return 0;
+    const File& file = found->second;
+    // A block of exactly its size, so that a reader past its end is found out.
+    auto* const data = new unsigned char[file.bytes.size()];
+    std::copy(file.bytes.begin(), file.bytes.end(), data);
+    *image = {data, static_cast<short>(file.width), static_cast<short>(file.height),
+              static_cast<short>(file.channels)};
+    state().held++;
+    return 1;
 }
-int TGA_Read_Image(const wchar_t* file, IGB_data*, void*) {
-    note(kService, "TGA_Read_Image(" + quoted(file) + ")");
-    return 0;
+
+} // namespace recorder
+
+int IGB_Read_Image(const wchar_t* file, IGB_data* image, void*) {
+    return deliver("IGB_Read_Image", file, image);
 }
-void IGB_Free(IGB_data*) { note(kService, "IGB_Free()"); }
+int TGA_Read_Image(const wchar_t* file, IGB_data* image, void*) {
+    return deliver("TGA_Read_Image", file, image);
+}
+void IGB_Free(IGB_data* image) {
+    note(kService, "IGB_Free()");
+    if (image->Data) state().held--;
+    delete[] image->Data;
+    image->Data = nullptr;
+}
 Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count) {
     note(kService, "Scan_Dir(" + quoted(folder) + ")");
     if (count) *count = 0;
