@@ -24,6 +24,8 @@
 #include "portable/files.h"
 
 #include "portable/global_memory.h"
+
+#include "portable/clipboard.h"
 #endif
 
 #endif

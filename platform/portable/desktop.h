@@ -1,6 +1,8 @@
 #ifndef PLATFORM_PORTABLE_DESKTOP_H
 #define PLATFORM_PORTABLE_DESKTOP_H
 
+#include <string>
+
 #include "raster/canvas.h"
 #include "window_state.h"
 
@@ -21,6 +23,10 @@ void desktop_raise(Window& window);
 void desktop_set_capture(bool capture);
 // An index into the standard cursors (see cursor.h); -1: hidden.
 void desktop_set_cursor(int index);
+
+// The clipboard's text as UTF-8; false: there is no desktop.
+bool desktop_get_text(std::string& text);
+bool desktop_set_text(const char* text);
 
 // Copies what changed to the screen.
 void desktop_present(Window& window);

@@ -139,6 +139,20 @@ void desktop_set_cursor(int index) {
     if (made[index]) sdl->SDL_SetCursor(made[index]);
 }
 
+bool desktop_get_text(std::string& text) {
+    const SdlLibrary* sdl = sdl_opened();
+    if (!sdl) return false;
+    char* held = sdl->SDL_GetClipboardText();
+    text = held ? held : "";
+    sdl->SDL_free(held);
+    return true;
+}
+
+bool desktop_set_text(const char* text) {
+    const SdlLibrary* sdl = sdl_opened();
+    return sdl && sdl->SDL_SetClipboardText(text) == 0;
+}
+
 static void copy_rows(const raster::Canvas& from, const SDL_Rect& part, SDL_Surface& to) {
     for (int y = part.y; y < part.y + part.h; y++) {
         const std::uint32_t* row = from.pixels + static_cast<std::ptrdiff_t>(y) * from.pitch + part.x;

@@ -12,6 +12,7 @@ namespace platform {
     X(SDL_CreateSystemCursor)                                                                                \
     X(SDL_CreateWindow)                                                                                      \
     X(SDL_DestroyWindow)                                                                                     \
+    X(SDL_GetClipboardText)                                                                                  \
     X(SDL_GetCurrentVideoDriver)                                                                             \
     X(SDL_GetError)                                                                                          \
     X(SDL_GetTicks)                                                                                          \
@@ -29,6 +30,7 @@ namespace platform {
     X(SDL_QuitSubSystem)                                                                                     \
     X(SDL_RaiseWindow)                                                                                       \
     X(SDL_RestoreWindow)                                                                                     \
+    X(SDL_SetClipboardText)                                                                                  \
     X(SDL_SetCursor)                                                                                         \
     X(SDL_SetHint)                                                                                           \
     X(SDL_SetWindowAlwaysOnTop)                                                                              \
@@ -41,7 +43,8 @@ namespace platform {
     X(SDL_ShowCursor)                                                                                        \
     X(SDL_ShowWindow)                                                                                        \
     X(SDL_UpdateWindowSurfaceRects)                                                                          \
-    X(SDL_WaitEventTimeout)
+    X(SDL_WaitEventTimeout)                                                                                  \
+    X(SDL_free)
 
 struct SdlLibrary {
 #define PLATFORM_SDL_POINTER(name) decltype(&::name) name = nullptr;

@@ -2,6 +2,8 @@
 // library's events become.
 
 #include <cstdlib>
+#include <cstring>
+#include <string>
 #include <thread>
 
 #include "host.h"
@@ -263,6 +265,50 @@ TEST_F(Desktop, CursorsAndCaptureReachTheLibrary) {
     EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
     SetCapture(host.wnd);
     ReleaseCapture();
+}
+
+// What another program put, as a host reads it.
+std::wstring pasted() {
+    OpenClipboard(nullptr);
+    const HANDLE block = GetClipboardData(CF_UNICODETEXT);
+    std::wstring text;
+    if (block)
+        text.assign(static_cast<const wchar_t*>(GlobalLock(block)), GlobalSize(block) / sizeof(wchar_t));
+    CloseClipboard();
+    return text;
+}
+
+TEST_F(Desktop, TheClipboardGivesWhatAnotherProgramPut) {
+    SDL_SetClipboardText("Gr\xC3\xBC\xC3\x9F"
+                         "e\nzwei\n");
+    EXPECT_TRUE(IsClipboardFormatAvailable(CF_TEXT));
+    EXPECT_TRUE(IsClipboardFormatAvailable(CF_UNICODETEXT));
+    EXPECT_EQ(pasted(), std::wstring(L"Gr\u00FC\u00DFe\r\nzwei\r\n\0", 14));
+    SDL_SetClipboardText("");
+    EXPECT_FALSE(IsClipboardFormatAvailable(CF_TEXT));
+    EXPECT_EQ(pasted(), L"");
+}
+
+TEST_F(Desktop, AHundredThousandCharactersArePasted) {
+    SDL_SetClipboardText(std::string(100000, 'x').c_str());
+    EXPECT_EQ(pasted(), std::wstring(100000, L'x') + L'\0');
+}
+
+TEST_F(Desktop, AnotherProgramGetsWhatTheHostPut) {
+    const wchar_t text[] = L"a\r\nb\rc\x4E2D";
+    const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, sizeof text);
+    std::memcpy(GlobalLock(block), text, sizeof text);
+    GlobalUnlock(block);
+    OpenClipboard(host.wnd);
+    EXPECT_EQ(SetClipboardData(CF_UNICODETEXT, block), block);
+    CloseClipboard();
+    char* held = SDL_GetClipboardText();
+    EXPECT_STREQ(held, "a\nb\rc\xE4\xB8\xAD");
+    SDL_free(held);
+    OpenClipboard(host.wnd);
+    EmptyClipboard();
+    CloseClipboard();
+    EXPECT_FALSE(SDL_HasClipboardText());
 }
 
 TEST_F(Desktop, EventsOfWindowsThatAreGoneAreIgnored) {
