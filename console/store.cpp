@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <cwchar>
 
 namespace brask {
 
@@ -19,10 +18,21 @@ void shift(wchar_t** store, int room, int n) {
 
 } // namespace
 
-wchar_t* copy_line(const wchar_t* text) {
-    const std::size_t size = (std::wcslen(text) + 1) * sizeof *text;
-    wchar_t* copy = static_cast<wchar_t*>(std::malloc(size));
-    if (copy) std::memcpy(copy, text, size);
+int line_count(const Texts& console) {
+    if (!console.Lines) return 0;
+    return static_cast<int>(LOG_ROOM - std::count(console.Lines, console.Lines + LOG_ROOM, nullptr));
+}
+
+int edit_length(const Texts& console) {
+    const wchar_t* const end = console.Edit_Line + LINE_ROOM - 1;
+    return static_cast<int>(std::find(console.Edit_Line, end, L'\0') - console.Edit_Line);
+}
+
+wchar_t* copy_line(const wchar_t* text, std::size_t length) {
+    wchar_t* copy = static_cast<wchar_t*>(std::malloc((length + 1) * sizeof *text));
+    if (!copy) return nullptr;
+    std::memcpy(copy, text, length * sizeof *text);
+    copy[length] = 0;
     return copy;
 }
 

@@ -1,6 +1,9 @@
 #include "foundation/compound.h"
 
+#include <cstdlib>
+
 #include <brask/fonts.h>
+#include <brask/pointer.h>
 
 #include "foundation/bracket.h"
 
@@ -45,6 +48,14 @@ void lay_around(const Tools& whole, Tools& frame) {
     lend_color(whole, frame);
     lend_font(whole, frame);
 }
+
+void release_base(Tools& part) {
+    std::free(part.W_Name);
+    if (part.Graph_Normal != part.Graph_Select) std::free(part.Graph_Normal);
+    std::free(part.Graph_Select);
+}
+
+bool any_button_down() { return getbutton(4) || getbutton(2) || getbutton(1); }
 
 int length_or(int length, int standard) {
     if (!length) return standard;

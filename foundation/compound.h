@@ -1,6 +1,8 @@
 #ifndef FOUNDATION_COMPOUND_H
 #define FOUNDATION_COMPOUND_H
 
+#include <cstring>
+
 #include <brask/tools.h>
 
 #include "foundation/pixels.h"
@@ -23,6 +25,17 @@ void lend_whole_font(const Tools& whole, Tools& part);
 void lend_name(const Tools& whole, Tools& part);
 // What a frame has that stands around the whole: its place, colour and font apart from its slant.
 void lay_around(const Tools& whole, Tools& frame);
+
+// Back to all zeros, as a part is before its first use, with what the base owned released. No trace.
+void release_base(Tools& part);
+template <typename Part>
+void clear_part(Part& part) {
+    release_base(part);
+    std::memset(static_cast<void*>(&part), 0, sizeof part);
+}
+
+// Is a part that has the pointer being dragged?
+bool any_button_down();
 
 // Names a part by a text that may hold anything: it is the format itself, without arguments, so that a
 // conversion in it prints nothing.

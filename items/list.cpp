@@ -4,8 +4,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include <brask/pointer.h>
-
 #include "foundation/bracket.h"
 #include "foundation/checks.h"
 #include "foundation/faces.h"
@@ -71,18 +69,10 @@ void lay_box(Lists& list, HWND wnd) {
     box.Init(wnd);
 }
 
-// Back to all zeros, with what it owned released.
-void clear_slider(Sliders& slider) {
-    std::free(slider.W_Name);
-    if (slider.Graph_Normal != slider.Graph_Select) std::free(slider.Graph_Normal);
-    std::free(slider.Graph_Select);
-    std::memset(static_cast<void*>(&slider), 0, sizeof slider);
-}
-
 // A value of 0 counts as none: the list stands at its first item.
 void lay_slider(Lists& list, const List_Layout& layout) {
     Sliders& slider = list.Slider;
-    if (!layout.scrolls) return clear_slider(slider);
+    if (!layout.scrolls) return clear_part(slider);
     put(slider, layout.slider);
     slider.Flag = list.Flag | OUTIL_REVERSE;
     slider.Border = 1;
@@ -152,8 +142,6 @@ void paint_ground(Lists& list, const Area& view) {
 int slider_place(const Lists& list) { return cut(list.Slider.Cur_Value); }
 
 bool scrolled(const Lists& list) { return slider_place(list) != (list.Step_X ? list.First_X : list.First_Y); }
-
-bool any_button_down() { return getbutton(1) || getbutton(2) || getbutton(4); }
 
 // --- Tracking ---
 

@@ -124,11 +124,22 @@ class BRASK_API Texts : public Tools {
 
   private:
     // The stores: n 0 empties the newest place of the log, n above 0 makes room for n new entries; both make
-    // the store if there is none. When memory fails there is none afterwards either.
+    // the store if there is none, and without memory there is none afterwards either.
     void Scroll_1(int n); // the log
     void Scroll_2(int n); // the history
+    void Free_Stores();
+    // Puts the lines of a text into the log, the first of them by Scroll_1(n).
+    void Store(const wchar_t* text, int n);
+    // The same with the repaint; gives the way out.
+    const char* Put(const wchar_t* text, int n);
     // Repaints the log where it is in view and measures its lines.
     void Re_Write();
+    // The log, and while reading the strip with its frame.
+    void Paint_Inside();
+    // Hands the pointer to a slider; whether that has it. While it is dragged, the log follows.
+    bool Scrolls(Sliders& slider, int event);
+    // Moves a slider by so many pixels, and the log with it.
+    void Shift(Sliders& slider, int way);
     // Fits both sliders to the lines and their widths; paints one with nothing to scroll.
     void Rescale_Cursor();
     // Paints the strip with `text` and the caret before its character `pos`.
