@@ -29,7 +29,7 @@ def part(page, left, top, width, height, name):
 
 size = read_png(os.path.join(here, "basics.png"))
 controls = System("native", build, "", []).layout(size.width, size.height)
-PANELS = {"basics": ("Boxes", "Labels", "Buttons"), "values": ("Sliders", "Value bars"), "items": ("Lists", "Spinners")}
+PANELS = {"basics": ("Boxes", "Labels", "Buttons"), "values": ("Sliders", "Value bars"), "items": ("Lists", "Check lists", "Spinners")}
 for page, names in PANELS.items():
     for name in names:
         panel = controls["panel", name]

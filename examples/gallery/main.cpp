@@ -85,6 +85,8 @@ int layouts(const Options& options) {
 }
 
 int open_window(const Options& options, const PageEntry& entry) {
+    if (!GetSystemMetrics(SM_CMONITORS))
+        return complain("there is no display; --snapshot FOLDER needs none", EXIT_FAILURE);
     Gallery gallery(entry, options.width, options.height, true);
     if (!gallery.window())
         return complain("cannot open a window; --snapshot FOLDER needs none", EXIT_FAILURE);

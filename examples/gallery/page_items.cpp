@@ -1,4 +1,5 @@
 // The page "Items": lists, check lists and spinners.
+#include <algorithm>
 #include <iterator>
 #include <memory>
 #include <vector>
@@ -27,9 +28,9 @@ class ListSection {
   public:
     ListSection() {
         set(few, OUTIL_VERTICAL, L"All fit", 8, L"Item %d");
-        set(rows, OUTIL_VERTICAL, L"Ten thousand", many, L"Row %d");
+        set(rows, OUTIL_VERTICAL | OUTIL_CAPTURE, L"Ten thousand", many, L"Row %d");
         set(side, 0, L"Side by side", 5, L"Item %d");
-        set(columns, 0, L"Forty", 40, L"Column %d");
+        set(columns, OUTIL_CAPTURE, L"Forty", 40, L"Column %d");
         set(disabled, OUTIL_VERTICAL | OUTIL_DISABLE, L"Disabled", 5, L"Item %d");
         rows.Cur_Value = 3;
     }
@@ -49,10 +50,8 @@ class ListSection {
             list->Draw();
     }
     void pointer(int word) {
-        for (Lists* list : lists) {
+        for (Lists* list : lists)
             take_item(*list, word);
-            if ((word & 15) == 0) list->Deselect();
-        }
     }
     void wheel(int notches) {
         for (Lists* list : lists)
@@ -95,7 +94,7 @@ class CheckSection {
         mask.Name_Set(L"Mask");
         colored.Colour = tones;
         colored.Enable = enabled;
-        colored.Name_Set(L"Colours, disabled entries");
+        colored.Name_Set(L"Colours");
         one.List = sizes;
         one.Flag = CHECK_EXCLUSIVE | CHECK_HORIZONTAL;
         one.Cur_Value = 1;
@@ -105,7 +104,7 @@ class CheckSection {
     }
     void layout(HWND wnd, const Area& area) {
         Area inner = panel.place(wnd, area);
-        place(one, wnd, inner.cut_bottom(inner.height / 4));
+        place(one, wnd, inner.cut_bottom(std::max(inner.height / 4, 70))); // two rows at least
         inner.cut_bottom(SPACE);
         place(mask, wnd, inner.cell(0, 2, 0, 1));
         place(colored, wnd, inner.cell(1, 2, 0, 1));

@@ -15,7 +15,7 @@ struct Shape {
 };
 const Shape shape_table[] = {
     {L"Arrow", Set_Curs_Arrow}, {L"Cross", Set_Curs_Cross}, {L"Drag", Set_Curs_Drag},
-    {L"Reset", Reset_Curs},     {L"Busy", Set_Curs_Wait},   {L"Not busy", Reset_Curs_Wait},
+    {L"Reset", Reset_Curs},     {L"Busy", Set_Curs_Wait},   {L"Ready", Reset_Curs_Wait},
 };
 
 struct Bit {

@@ -6,9 +6,12 @@
 #include "raster/canvas.h"
 #include "window_state.h"
 
-// What the windows ask of a real desktop. It is opened by the first desktop_show; until then, and when there
+// What the windows ask of a real desktop. It is opened by the first desktop_show or _screens; until then, and when there
 // is none, every other function does nothing.
 namespace platform {
+
+// How many screens there are; it opens the desktop, too.
+int desktop_screens();
 
 // Puts the window on the screen in its layout; false: there is no desktop, it stays in memory.
 bool desktop_show(HWND wnd, Window& window);

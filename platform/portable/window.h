@@ -154,6 +154,8 @@ enum : int { SIZE_RESTORED = 0, SIZE_MINIMIZED = 1, SIZE_MAXIMIZED = 2 };
 enum : int { WA_INACTIVE = 0, WA_ACTIVE = 1, WA_CLICKACTIVE = 2 };
 enum : int { SC_CLOSE = 0xF060 };
 
+enum : int { SM_CMONITORS = 80 };
+
 extern "C" {
 PLATFORM_API HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR title, DWORD style, int x,
                                   int y, int width, int height, HWND owner, HMENU menu, HINSTANCE instance,
@@ -184,6 +186,9 @@ PLATFORM_API LONG_PTR GetWindowLongPtrW(HWND wnd, int index);
 PLATFORM_API LONG_PTR GetWindowLongPtrA(HWND wnd, int index);
 PLATFORM_API LONG_PTR SetWindowLongPtrW(HWND wnd, int index, LONG_PTR value);
 PLATFORM_API HWND GetParent(HWND wnd); // the owner
+
+// SM_CMONITORS: how many screens there are, 0 without a desktop, which this opens. Any other index answers 0.
+PLATFORM_API int GetSystemMetrics(int index);
 
 PLATFORM_API HWND SetFocus(HWND wnd);
 PLATFORM_API HWND GetFocus();

@@ -90,4 +90,6 @@ BOOL IsZoomed(HWND wnd) {
     const Window* window = find_window(wnd);
     return window && window->layout == Layout::maximized;
 }
+
+int GetSystemMetrics(int index) { return index == SM_CMONITORS ? desktop_screens() : 0; }
 }

@@ -16,6 +16,10 @@ def options(tally, system):
         code, _, errors = system.run("gallery", *words)
         good = code == 2 and mentioned in errors
         tally.check(f"{system.name} options {words}", None if good else f"exit code {code}, message: {errors}")
+    if not system.display:  # only then it is started without one
+        code, _, errors = system.run("gallery")
+        told = code == 1 and "display" in errors and "--snapshot" in errors
+        tally.check(f"{system.name} no display", None if told else f"exit code {code}, message: {errors}")
     code, output, _ = system.run("gallery", "--help")
     known = all(word in output for word in ("--page", "--size", "--snapshot", "--trace", "--builtin-font", "--layout"))
     tally.check(f"{system.name} help", None if code == 0 and known else f"exit code {code}: {output}")

@@ -103,11 +103,11 @@ KEYS = [
 class Session:
     """The page in a window, with short words for what the scenes do."""
 
-    def __init__(self, tally, system, display):
+    def __init__(self, tally, system, display, *words):
         self.tally, self.system = tally, system
         display.xdotool("mousemove", 1399, 899)
         self.controls = system.layout(*SIZE)
-        self.window = Window(display, system, "gallery", TITLE, "--trace", "--size", "%dx%d" % SIZE)
+        self.window = Window(display, system, "gallery", TITLE, "--trace", "--size", "%dx%d" % SIZE, *words)
 
     def check(self, name, problem):
         saved = {"window": self.window.picture()} if problem and self.window.process.poll() is None else {}
@@ -116,7 +116,7 @@ class Session:
     def shows(self, name, expected):
         """Waits until the window looks so."""
         expected = list(expected)
-        wait_for(lambda: not wrong(self.window.picture(), expected), 5)
+        wait_for(lambda: not wrong(self.window.picture(), expected))
         self.check(name, wrong(self.window.picture(), expected))
 
     def looks(self, name, control, look):
@@ -134,8 +134,13 @@ class Session:
 
     def click(self, control, button=1):
         self.go(control)
-        self.window.press(button)
-        self.window.release(button)
+        self.press(button)
+
+    def press(self, button=1, times=1):
+        """Presses and releases; 4 and 5 are the wheel, away from the user and back."""
+        for _ in range(times):
+            self.window.press(button)
+            self.window.release(button)
 
 
 def basics(tally, system, display):
@@ -222,7 +227,7 @@ def shapes(session):
     """The strip names the pointer's shape, and the screen shows another picture for each."""
     bare, arrow, cross = pointer_picture(session), None, None
     for name, shown in (("Arrow", "arrow"), ("Cross", "cross"), ("Busy", "busy"), ("Arrow", "busy"),
-                        ("Not busy", "arrow"), ("Cross", "cross"), ("Reset", "arrow")):
+                        ("Ready", "arrow"), ("Cross", "cross"), ("Reset", "arrow")):
         mark = session.window.mark()
         session.click(("button", name))
         if name != "Arrow":  # the arrow is up at the start, and stays down while busy: nothing new to write

@@ -7,6 +7,7 @@ import sys
 
 import documents
 import hosts
+import items
 import pages
 import values
 from display import Display, System
@@ -68,7 +69,7 @@ def main(native_folder, windows_folder):
             systems.append(windows)
         for system in systems:
             tally.scene(hosts.options, system)
-            for scene in (pages.basics, values.values, pages.sizes, hosts.hello):
+            for scene in (pages.basics, values.values, items.items, pages.sizes, hosts.hello):
                 tally.scene(scene, system, display)
         if windows:
             tally.scene(hosts.same_pictures, windows, systems[0])

@@ -67,6 +67,11 @@ static void apply_layout(const SdlLibrary& sdl, const Window& window) {
     }
 }
 
+int desktop_screens() {
+    const SdlLibrary* sdl = sdl_open();
+    return sdl ? std::max(sdl->SDL_GetNumVideoDisplays(), 0) : 0;
+}
+
 bool desktop_show(HWND wnd, Window& window) {
     const SdlLibrary* sdl = sdl_open();
     if (!sdl) return false;

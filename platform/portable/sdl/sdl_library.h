@@ -15,6 +15,7 @@ namespace platform {
     X(SDL_GetClipboardText)                                                                                  \
     X(SDL_GetCurrentVideoDriver)                                                                             \
     X(SDL_GetError)                                                                                          \
+    X(SDL_GetNumVideoDisplays)                                                                               \
     X(SDL_GetTicks)                                                                                          \
     X(SDL_GetWindowFromID)                                                                                   \
     X(SDL_GetWindowData)                                                                                     \

@@ -67,6 +67,12 @@ TEST_F(Desktop, OpensWithTheFirstWindowThatIsShown) {
     EXPECT_EQ(platform::find_window(hidden.wnd)->desktop, nullptr);
 }
 
+TEST_F(Desktop, CountsItsScreens) {
+    EXPECT_EQ(GetSystemMetrics(SM_CMONITORS), SDL_GetNumVideoDisplays());
+    EXPECT_GE(GetSystemMetrics(SM_CMONITORS), 1);
+    EXPECT_EQ(GetSystemMetrics(-1), 0);
+}
+
 TEST_F(Desktop, ChangesAreShownWhenTheQueueRunsEmpty) {
     set_pixel(20, 30, 0xABCDEF);
     set_pixel(100, 30, 0x123456);
