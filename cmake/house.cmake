@@ -9,7 +9,7 @@ endif()
 # Controls make many small calls across files: inlining them takes a quarter off a bevel. The objects of the archives
 # stay usable for other linkers.
 if(NOT WIN32 AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  add_compile_options(-flto=auto -ffat-lto-objects -fno-semantic-interposition)
+  add_compile_options(-flto=auto -ffat-lto-objects -fno-semantic-interposition -fno-plt)
   add_link_options(-flto=auto -Wl,-Bsymbolic-functions)
 endif()
 if(WIN32)

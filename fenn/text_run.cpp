@@ -84,7 +84,8 @@ Key key_of(const Font& font, const wchar_t* text) {
 
 Run* find_recent(Caches& all, const Font& font, const wchar_t* text) {
     for (Run*& run : all.recent) {
-        if (!run || run->font != font.id || std::wcscmp(run->text.c_str(), text) != 0) continue;
+        if (!run || run->font != font.id || run->text[0] != *text) continue;
+        if (std::wcscmp(run->text.c_str(), text) != 0) continue;
         std::swap(run, all.recent[0]);
         return all.recent[0];
     }
