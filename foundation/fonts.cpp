@@ -50,9 +50,16 @@ class Locked {
 };
 
 // Only as much of a name as a slot holds is compared: a longer one must not miss its own slot for ever.
+bool is_named(const Slot& slot, const char* name) {
+    for (int i = 0; i < NAME_ROOM - 1; i++) {
+        if (slot.name[i] != name[i]) return false;
+        if (!name[i]) break;
+    }
+    return true;
+}
+
 bool matches(const Slot& slot, const char* name, char weight, char slant, int size) {
-    return slot.size == size && slot.weight == weight && slot.slant == slant &&
-           !std::strncmp(slot.name, name, NAME_ROOM - 1);
+    return slot.size == size && slot.weight == weight && slot.slant == slant && is_named(slot, name);
 }
 
 // The number of the slot that holds the request, newest first; -1 when none does.

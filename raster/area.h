@@ -33,7 +33,10 @@ inline void fill_area(const Canvas& canvas, const Rect& area, std::uint32_t colo
     if (area.right - area.left == 1) {             // the upright sides of bevels: most of what is filled
         const std::ptrdiff_t pitch = canvas.pitch; // not read anew after each pixel
         std::uint32_t* pixel = row_at(canvas, area.left, area.top);
-        for (int rows = area.bottom - area.top; rows > 0; --rows, pixel += pitch)
+        int rows = area.bottom - area.top;
+        for (; rows >= 4; rows -= 4, pixel += 4 * pitch)
+            pixel[0] = pixel[pitch] = pixel[2 * pitch] = pixel[3 * pitch] = color;
+        for (; rows > 0; --rows, pixel += pitch)
             *pixel = color;
         return;
     }
