@@ -119,12 +119,12 @@ def thumb(session):
 
 
 def dragged(session):
-    """A drag goes on beside the list and in another window's place, and ends with the press."""
+    """A drag goes on beside the list and outside of the window, and ends with the press."""
     column, row = thumb(session)
     window, far = session.window, SIZE[0] - 300
     window.move(column, row(0))
     window.press()
-    for place, x in ((0.5, column), (0.25, far), (0.75, -30)):
+    for place, x in ((0.5, column), (0.25, far), (0.75, SIZE[0] + 30)):
         mark = window.mark()
         window.move(x, row(place))
         top = seen(session, mark, "Row")[0]
@@ -144,8 +144,9 @@ def arrow(session):
     for _ in range(2):
         mark = window.mark()
         window.move(column, foot)
-        session.press()
+        window.press()  # held until it is seen: the list asks whether the button is still down
         tops.append(seen(session, mark, "Row")[0])
+        window.release()
     session.check("arrow", None if tops[1] == tops[0] + 1 > 2 else f"the rows on top are {tops}")
     away(session)
     window.move(column, row(0.75))
