@@ -1,5 +1,6 @@
 #include <brask/texts.h>
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdlib>
 #include <cstring>
@@ -38,7 +39,7 @@ Metrics metrics_of(const Texts& console) {
 }
 
 // The front half alone: required so. What stands behind it stays behind its terminator.
-void clear_front(Texts& console) { std::memset(console.Edit_Line, 0, EDIT_FRONT * sizeof(wchar_t)); }
+void clear_front(Texts& console) { std::fill_n(console.Edit_Line, EDIT_FRONT, L'\0'); }
 
 void rewind(Sliders& slider) {
     slider.Cur_Value = 0;
