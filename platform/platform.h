@@ -26,6 +26,8 @@
 #include "portable/global_memory.h"
 
 #include "portable/clipboard.h"
+
+#include "portable/dialog.h"
 #endif
 
 #endif

@@ -42,8 +42,9 @@ void activate_window(HWND wnd, int how) {
 void leave_activation(HWND wnd) {
     if (active != wnd) return;
     const Window* window = find_window(wnd);
-    const HWND owner = window ? window->owner : nullptr;
-    activate_window(IsWindowVisible(owner) ? owner : nullptr, WA_ACTIVE);
+    const HWND owner = window && IsWindowVisible(window->owner) ? window->owner : nullptr;
+    if (owner) desktop_raise(*find_window(owner));
+    activate_window(owner, WA_ACTIVE);
 }
 
 void forget_activation(HWND wnd) {

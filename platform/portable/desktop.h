@@ -6,8 +6,8 @@
 #include "raster/canvas.h"
 #include "window_state.h"
 
-// What the windows ask of a real desktop. It is opened by the first desktop_show or _screens; until then, and when there
-// is none, every other function does nothing.
+// What the windows ask of a real desktop. It is opened by the first desktop_show, _screens or _work_area;
+// until then, and when there is none, every other function does nothing.
 namespace platform {
 
 // How many screens there are; it opens the desktop, too.
@@ -17,6 +17,10 @@ int desktop_screens();
 bool desktop_show(HWND wnd, Window& window);
 void desktop_hide(Window& window);
 void desktop_end(Window& window);
+
+// The part of the screen that windows may take, on the monitor where this one is (null: the first one). Opens
+// the desktop; false: there is none.
+bool desktop_work_area(const Window* window, RECT* area);
 
 void desktop_set_title(Window& window);
 void desktop_set_size(Window& window);

@@ -1,8 +1,10 @@
 #include "characters.h"
+#include "desktop.h"
 #include "desktop_events.h"
 #include "keyboard_state.h"
 #include "keys.h"
 #include "messages.h"
+#include "modal.h"
 #include "process.h"
 #include "queue.h"
 #include "window_state.h"
@@ -13,7 +15,9 @@ namespace platform {
 // The host hears of it by sent messages.
 static void change_focus(const Input& input) {
     if (input.down) {
-        activate_window(input.wnd, WA_ACTIVE);
+        const HWND used = modal_of(input.wnd);
+        if (used != input.wnd) desktop_raise(*find_window(used));
+        activate_window(used, WA_ACTIVE);
     } else if (GetActiveWindow() == input.wnd) { // or another one of ours has been activated meanwhile
         activate_window(nullptr, WA_INACTIVE);
     }

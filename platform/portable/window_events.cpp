@@ -2,6 +2,7 @@
 #include "desktop_events.h"
 #include "input.h"
 #include "messages.h"
+#include "modal.h"
 #include "surface.h"
 #include "window_state.h"
 
@@ -28,6 +29,13 @@ void desktop_expose(HWND wnd) {
     if (window) window_changed(wnd, {0, 0, window->canvas.width, window->canvas.height});
 }
 
-void desktop_close(HWND wnd) { PostMessageW(wnd, WM_SYSCOMMAND, SC_CLOSE, 0); }
+// A window that waits for a dialog cannot be closed by its box; the dialog is shown instead.
+void desktop_close(HWND wnd) {
+    if (const HWND modal = modal_of(wnd); modal != wnd) {
+        desktop_raise(*find_window(modal));
+    } else {
+        PostMessageW(wnd, WM_SYSCOMMAND, SC_CLOSE, 0);
+    }
+}
 
 } // namespace platform

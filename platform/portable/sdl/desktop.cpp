@@ -19,7 +19,8 @@ static Uint32 creation_flags(const Window& window) {
     Uint32 flags = SDL_WINDOW_HIDDEN;
     if (window.style & WS_THICKFRAME) flags |= SDL_WINDOW_RESIZABLE;
     if ((window.style & WS_CAPTION) != WS_CAPTION) flags |= SDL_WINDOW_BORDERLESS;
-    if (window.style & WS_POPUP && !(window.style & WS_CAPTION)) flags |= SDL_WINDOW_SKIP_TASKBAR;
+    const bool is_bare = window.style & WS_POPUP && !(window.style & WS_CAPTION);
+    if (is_bare || window.owner) flags |= SDL_WINDOW_SKIP_TASKBAR;
     if (window.ex_style & WS_EX_TOPMOST) flags |= SDL_WINDOW_ALWAYS_ON_TOP;
     return flags;
 }
@@ -33,6 +34,12 @@ static void choose_position(const SdlLibrary& sdl, Window& window, SDL_Window* m
     if (x < 0 || y < 0) sdl.SDL_SetWindowPosition(made, window.origin.x, window.origin.y);
 }
 
+// A window with an owner stays above it.
+static void tell_owner(const SdlLibrary& sdl, const Window& window, SDL_Window* made) {
+    const Window* owner = find_window(window.owner);
+    if (owner && owner->desktop) sdl.SDL_SetWindowModalFor(made, window_of(*owner));
+}
+
 static bool create(const SdlLibrary& sdl, HWND wnd, Window& window) {
     const int x = window.placed ? window.origin.x : static_cast<int>(SDL_WINDOWPOS_UNDEFINED);
     const int y = window.placed ? window.origin.y : static_cast<int>(SDL_WINDOWPOS_UNDEFINED);
@@ -43,6 +50,7 @@ static bool create(const SdlLibrary& sdl, HWND wnd, Window& window) {
     if (!made) return false;
     sdl.SDL_SetWindowData(made, kHandleName, wnd);
     window.desktop = made;
+    tell_owner(sdl, window, made);
     if (!window.placed) choose_position(sdl, window, made);
     return true;
 }
@@ -96,6 +104,16 @@ void desktop_end(Window& window) {
     sdl_opened()->SDL_SetWindowData(window_of(window), kHandleName, nullptr);
     sdl_opened()->SDL_DestroyWindow(window_of(window));
     window.desktop = nullptr;
+}
+
+bool desktop_work_area(const Window* window, RECT* area) {
+    const SdlLibrary* sdl = sdl_open();
+    if (!sdl) return false;
+    const int monitor =
+        window && window->desktop ? std::max(sdl->SDL_GetWindowDisplayIndex(window_of(*window)), 0) : 0;
+    SDL_Rect free;
+    if (sdl->SDL_GetDisplayUsableBounds(monitor, &free) != 0 || free.w < 1 || free.h < 1) return false;
+    return SetRect(area, free.x, free.y, free.x + free.w, free.y + free.h);
 }
 
 void desktop_set_title(Window& window) {

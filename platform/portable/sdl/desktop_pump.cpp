@@ -5,6 +5,7 @@
 #include "../desktop.h"
 #include "../desktop_events.h"
 #include "../input.h"
+#include "../messages.h"
 #include "../process.h"
 #include "alt_graph.h"
 #include "sdl_library.h"
@@ -72,10 +73,10 @@ static void on_window(const SdlLibrary& sdl, const SDL_WindowEvent& event) {
     }
 }
 
-// The session ends.
+// The session ends, for windows that wait for a dialog too.
 static void close_all() {
     for (HWND wnd : windows().all<HWND>()) {
-        if (IsWindowVisible(wnd)) desktop_close(wnd);
+        if (IsWindowVisible(wnd)) PostMessageW(wnd, WM_SYSCOMMAND, SC_CLOSE, 0);
     }
 }
 

@@ -14,11 +14,13 @@ namespace platform {
     X(SDL_DestroyWindow)                                                                                     \
     X(SDL_GetClipboardText)                                                                                  \
     X(SDL_GetCurrentVideoDriver)                                                                             \
+    X(SDL_GetDisplayUsableBounds)                                                                            \
     X(SDL_GetError)                                                                                          \
     X(SDL_GetNumVideoDisplays)                                                                               \
     X(SDL_GetTicks)                                                                                          \
     X(SDL_GetWindowFromID)                                                                                   \
     X(SDL_GetWindowData)                                                                                     \
+    X(SDL_GetWindowDisplayIndex)                                                                             \
     X(SDL_GetWindowPosition)                                                                                 \
     X(SDL_GetWindowSurface)                                                                                  \
     X(SDL_GetWindowWMInfo)                                                                                   \
@@ -38,6 +40,7 @@ namespace platform {
     X(SDL_SetWindowData)                                                                                     \
     X(SDL_SetWindowMaximumSize)                                                                              \
     X(SDL_SetWindowMinimumSize)                                                                              \
+    X(SDL_SetWindowModalFor)                                                                                 \
     X(SDL_SetWindowPosition)                                                                                 \
     X(SDL_SetWindowSize)                                                                                     \
     X(SDL_SetWindowTitle)                                                                                    \
