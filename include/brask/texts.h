@@ -144,6 +144,16 @@ class BRASK_API Texts : public Tools {
     void Rescale_Cursor();
     // Paints the strip with `text` and the caret before its character `pos`.
     void Read_Echo(const wchar_t* text, int pos);
+    // The same for the line under edit; and after a change, which is reported to the host.
+    void Echo();
+    void Echo_Change();
+    // What a key does that is not refused; these two give the way out.
+    const char* Take(int key);
+    const char* Type(wchar_t character);
+    void Enter();
+    void Keep_Line(wchar_t** Texts::*store, void (Texts::*scroll)(int));
+    void Give_Up();
+    void Paste();
 };
 
 #endif

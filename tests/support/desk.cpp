@@ -5,6 +5,7 @@
 #include <mutex>
 #include <utility>
 
+#include "desk_function.h"
 #include "recorder.h"
 
 namespace desk {
@@ -45,6 +46,7 @@ static HPEN pen(int number) {
 
 void reset() {
     state = State();
+    clipboard() = Clipboard();
     state.selected = pen(0);
     state.shown = own_cursor(0);
 }
@@ -75,19 +77,6 @@ static void note(const std::string& line) { recorder::note(recorder::kSystem, li
 
 using desk::note;
 using recorder::named;
-
-// On Windows the archive calls through the import pointers, so that these take the place of user32's and
-// gdi32's; elsewhere there is no other definition in the program.
-#ifdef _WIN32
-#define DESK_FUNCTION(result, name, ...)                                                                     \
-    static result WINAPI desk_##name(__VA_ARGS__);                                                           \
-    extern "C" {                                                                                             \
-    decltype(&desk_##name) __imp_##name = desk_##name;                                                       \
-    }                                                                                                        \
-    static result WINAPI desk_##name(__VA_ARGS__)
-#else
-#define DESK_FUNCTION(result, name, ...) extern "C" result name(__VA_ARGS__)
-#endif
 
 DESK_FUNCTION(SHORT, GetKeyState, int key) { return static_cast<SHORT>(desk::state.key_states[key & 255]); }
 

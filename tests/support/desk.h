@@ -37,6 +37,17 @@ std::vector<Made>& fonts(); // all since the last reset
 void resolution(int x, int y);
 void refuse_fonts(bool refuse);
 
+// --- The clipboard ---
+struct Clipboard {
+    std::vector<wchar_t> units; // the block that it gives, with or without a terminator
+    bool text = false;          // there is text
+    bool opens = true;          // it can be opened
+    bool gives = true;          // it hands its block over
+    bool locks = true;          // the block can be looked into
+};
+Clipboard& clipboard();
+void copy(const std::wstring& text); // with a terminator
+
 } // namespace desk
 
 #endif
