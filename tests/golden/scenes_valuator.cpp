@@ -129,6 +129,21 @@ const std::vector<Scene> VALUATOR_SCENES = {
          show_valuator(s, {OUTIL_REVERSE, 25, 0, nullptr, 100, 0});
      }},
     {"valuator_outline", 220, 50, [](Stage& s) { show_valuator(s, {GRAPH_OUTLINE}); }},
+    {"valuator_disabled", 220, 50, [](Stage& s) { show_valuator(s, {OUTIL_DISABLE}); }},
+    {"valuator_flat", 220, 50, [](Stage& s) { show_valuator(s, {OUTIL_FLAT}); }},
+    {"valuator_hidden", 220, 50, [](Stage& s) { show_valuator(s, {OUTIL_INVISIBLE}); }},
+    {"valuator_vertical_locked", 50, 170,
+     [](Stage& s) { show_valuator(s, {OUTIL_VERTICAL | VALUATOR_FREZE}); }},
+    {"valuator_vertical_reversed", 50, 170,
+     [](Stage& s) {
+         show_valuator(s, {OUTIL_VERTICAL | OUTIL_REVERSE, 25, 0, nullptr, 100, 0});
+     }},
+    {"valuator_vertical_log", 50, 170,
+     [](Stage& s) {
+         show_valuator(s, {OUTIL_VERTICAL | VALUATOR_LOG10, 10, 0, nullptr, 1, 1000});
+     }},
+    {"valuator_vertical_outline", 50, 170,
+     [](Stage& s) { show_valuator(s, {OUTIL_VERTICAL | GRAPH_OUTLINE}); }},
     {"valuator_empty", 220, 50, [](Stage& s) { show_valuator(s, {OUTIL_EMPTY}); }},
     {"valuator_wide_border", 220, 50,
      [](Stage& s) {
