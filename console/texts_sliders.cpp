@@ -1,6 +1,7 @@
 #include <brask/texts.h>
 
 #include <algorithm>
+#include <cstddef>
 
 #include "console/geometry.h"
 #include "console/store.h"
@@ -11,16 +12,25 @@ using namespace brask;
 
 namespace {
 
-// Lines that were never in view count with a width of 0.
+// Lines that were never in view count with a width of 0. This walks the whole store for every line written,
+// and so it goes by searches, from hole to hole and from one width to the next greater one.
 Extent content_of(const Texts& console) {
     if (!console.Lines) return {0, 0};
-    int count = 0, widest = 0;
-    for (int i = 0; i < LOG_ROOM; i++) {
-        if (!console.Lines[i]) continue;
-        count++;
-        widest = std::max(widest, console.Line_Width[i]);
+    const int* const widths = console.Line_Width;
+    wchar_t* const* const lines = console.Lines;
+    wchar_t* const* const end = lines + LOG_ROOM;
+    std::ptrdiff_t count = 0;
+    int widest = 0;
+    const auto wider = [&widest](int width) { return width > widest; };
+    for (auto first = lines; first != end;) {
+        const auto hole = std::find(first, end, nullptr);
+        count += hole - first;
+        for (auto at = widths + (first - lines), last = widths + (hole - lines);
+             (at = std::find_if(at, last, wider)) != last;)
+            widest = *at;
+        first = std::find_if(hole, end, [](const wchar_t* line) { return line != nullptr; });
     }
-    return {Px(widest) + SPACE, Px(console.Font_Dim_Y) * count};
+    return {Px(widest) + SPACE, Px(console.Font_Dim_Y) * static_cast<int>(count)};
 }
 
 // A slider takes all of the console's flags. With nothing to scroll it is a mere outline.
