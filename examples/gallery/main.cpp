@@ -9,32 +9,12 @@
 
 #include "options.h"
 #include "page.h"
+#include "traces.h"
 #include "window.h"
 
 namespace {
 
 constexpr int exit_usage = 2;
-const unsigned int trace_codes[] = {0x90000029, 0x90000027, 0x90004009};
-
-bool is_trace(unsigned int code) {
-    for (unsigned int trace : trace_codes)
-        if (code == trace) return true;
-    return false;
-}
-
-// Traces go to the standard output, so that they can be piped; what is wrong goes to the other stream.
-void report(void*, HWND, unsigned int code, const wchar_t* text) {
-    FILE* out = is_trace(code) ? stdout : stderr;
-    std::fprintf(out, "%s\n", Wchar_2_Char(text));
-    std::fflush(out);
-}
-
-void listen() {
-    Fenn_Set_Report(report, nullptr);
-    for (unsigned int code : trace_codes)
-        Fenn_Listen(code, 1);
-}
-
 int complain(const std::string& text, int code) {
     std::fprintf(stderr, "gallery: %s\n", text.c_str());
     return code;
@@ -111,7 +91,7 @@ int main(int argc, char** argv) {
             names += std::string(" ") + pages[i].name;
         return complain("there is no page \"" + options.page + "\"; the pages are:" + names, exit_usage);
     }
-    if (options.trace) listen();
+    if (options.trace) traces_print(true);
     Fenn_Builtin_Font(options.builtin);
     if (options.layout) return layouts(options);
     if (!options.snapshot.empty()) return snapshots(options);

@@ -56,6 +56,10 @@ class Page {
     virtual void pointer(int word) = 0;
     // The wheel was turned, positive away from the user.
     virtual void wheel(int notches) { (void)notches; }
+    // A key for an editor, see editor_keys.h.
+    virtual void key(int key) { (void)key; }
+    // Called when a message was dealt with.
+    virtual void settle() {}
     virtual void each(const Visitor& visit) const = 0;
 };
 

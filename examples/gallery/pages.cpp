@@ -6,12 +6,11 @@ std::unique_ptr<Page> make_page_basics();
 std::unique_ptr<Page> make_page_values();
 std::unique_ptr<Page> make_page_items();
 std::unique_ptr<Page> make_page_colour();
+std::unique_ptr<Page> make_page_console();
 
 const PageEntry pages[] = {
-    {"Basics", make_page_basics},
-    {"Values", make_page_values},
-    {"Items", make_page_items},
-    {"Colour", make_page_colour},
+    {"Basics", make_page_basics}, {"Values", make_page_values},   {"Items", make_page_items},
+    {"Colour", make_page_colour}, {"Console", make_page_console},
 };
 const std::size_t page_count = sizeof pages / sizeof pages[0];
 

@@ -4,6 +4,8 @@
 #include <brask/keyboard.h>
 #include <brask/pointer.h>
 
+#include "../editor_keys.h"
+
 namespace {
 
 const wchar_t class_name[] = L"brask gallery";
@@ -158,12 +160,17 @@ void Gallery::leave() {
 }
 
 void Gallery::key(UINT message, WPARAM wparam, LPARAM lparam) {
-    if (int code = Parse_Keyboard(wnd, message, wparam, lparam)) strip.show_key(code);
+    int code = Parse_Keyboard(wnd, message, wparam, lparam);
+    if (!code) return;
+    strip.show_key(code);
+    if (int key = editor_key(message, wparam, code)) page->key(key);
 }
 
 LRESULT CALLBACK Gallery::procedure(HWND wnd, UINT message, WPARAM wparam, LPARAM lparam) {
     if (!current || current->wnd != wnd) return DefWindowProcW(wnd, message, wparam, lparam);
-    return current->handle(message, wparam, lparam);
+    LRESULT result = current->handle(message, wparam, lparam);
+    if (current->wnd && current->page) current->page->settle();
+    return result;
 }
 
 LRESULT Gallery::handle(UINT message, WPARAM wparam, LPARAM lparam) {
