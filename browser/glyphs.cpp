@@ -62,8 +62,7 @@ void paint(const Layer (&layers)[COUNT], const Cell& cell) {
         paint(layer, cell);
 }
 
-// --- Folders
-// ------------------------------------------------------------------------------------------------
+// --- Folders ----------------------------------------------------------------------------------------------
 
 constexpr unsigned long FOLDER = 0x388E8E;
 constexpr unsigned long FOLDER_SELECTED = 0x4040FF;
@@ -90,8 +89,7 @@ constexpr Layer face(char select, const Line (&list)[COUNT]) {
     return {select ? FOLDER_SELECTED : FOLDER, Block::FILLED, 1, 9, 13, 1, list, COUNT};
 }
 
-// --- Connectors
-// ---------------------------------------------------------------------------------------------
+// --- Connectors -------------------------------------------------------------------------------------------
 
 constexpr unsigned long TREE_LINE = 0xFF0000;
 

@@ -6,7 +6,7 @@
 
 #include "browser/glyphs.h"
 #include "browser/icon_readers.h"
-#include "foundation/picture_path.h"
+#include "foundation/picture_file.h"
 
 using namespace brask;
 

@@ -12,7 +12,7 @@
 #include <brask/fenn.h>
 
 #include "foundation/faces.h"
-#include "foundation/picture_path.h"
+#include "foundation/picture_file.h"
 #include "foundation/trace.h"
 
 namespace brask {
@@ -43,8 +43,7 @@ const wchar_t* folder_of(Reader& reader) {
     return reader.folder;
 }
 
-// --- Reports. Those in colour are made for a console: marks choose its fonts and colours.
-// ----------------------
+// --- Reports. Those in colour are made for a console: marks choose its fonts and colours. -----------------
 
 void tell_unreadable(Reader& reader, const wchar_t* path, int reason, int line) {
     const bool silent = reader.tells_once && reader.told;
@@ -67,19 +66,13 @@ void tell_no_memory(const Reader& reader, const wchar_t* path) {
     Error_Fct(hwnd, REPORT_WARNING, "%hs(%ls) failed in new", reader.name, path);
 }
 
-// --- Pixels
-// -------------------------------------------------------------------------------------------------
-
-struct Freed {
-    void operator()(void* block) const { std::free(block); }
-};
-using Block = std::unique_ptr<BYTE[], Freed>;
+// --- Pixels -----------------------------------------------------------------------------------------------
 
 // Zeroed; null when memory fails and for more pixels than any icon has.
-Block block(std::int64_t pixels, int channels) {
+Block<BYTE> block(std::int64_t pixels, int channels) {
     if (pixels > MOST_PIXELS) return nullptr;
-    return Block(static_cast<BYTE*>(std::calloc(static_cast<std::size_t>(std::max<std::int64_t>(pixels, 1)),
-                                                static_cast<std::size_t>(channels))));
+    return Block<BYTE>(static_cast<BYTE*>(std::calloc(
+        static_cast<std::size_t>(std::max<std::int64_t>(pixels, 1)), static_cast<std::size_t>(channels))));
 }
 
 std::int64_t pixels_of(int width, int height) {
@@ -89,7 +82,7 @@ std::int64_t pixels_of(int width, int height) {
 // Both blocks or none.
 bool make_room(Icon_Entry& entry, int width, int height) {
     const std::int64_t count = pixels_of(width, height);
-    Block data = block(count, CHANNELS), swapped = block(count, CHANNELS);
+    Block<BYTE> data = block(count, CHANNELS), swapped = block(count, CHANNELS);
     if (!data || !swapped) return false;
     entry.Dim_X = width;
     entry.Dim_Y = height;
@@ -105,14 +98,7 @@ void set_pixel(Icon_Entry& entry, std::int64_t at, BYTE blue, BYTE green, BYTE r
     std::copy_n(swapped, CHANNELS, entry.Data_Swap + at * CHANNELS);
 }
 
-// --- .rgb: the drawing layer reads it. Its fourth channel is transparency
-// ---------------------------------------
-
-// A picture that the drawing layer has read.
-struct Record {
-    IGB_data image = {};
-    ~Record() { IGB_Free(&image); }
-};
+// --- .rgb: the drawing layer reads it. Its fourth channel is transparency ---------------------------------
 
 void take_pixels(Icon_Entry& entry, const BYTE* from) {
     const std::int64_t count = pixels_of(entry.Dim_X, entry.Dim_Y);
@@ -120,8 +106,7 @@ void take_pixels(Icon_Entry& entry, const BYTE* from) {
         set_pixel(entry, at, from[0], from[1], from[2], static_cast<BYTE>(255 - from[3]));
 }
 
-// --- .tga: uncompressed, without anything between the header and the pixels
-// ------------------------------------
+// --- .tga: uncompressed, without anything between the header and the pixels -------------------------------
 
 struct Closed {
     void operator()(std::FILE* file) const { std::fclose(file); }
@@ -162,20 +147,20 @@ bool read_rgb(Icon_Entry& entry, const wchar_t* name) {
     Reader& reader = rgb_reader;
     const Picture_Path path(folder_of(reader), name);
     Error_Fct(hwnd, REPORT_ICON, "%hs(%ls)", reader.name, path.text);
-    Record record;
-    if (!IGB_Read_Image(path.text, &record.image, nullptr)) {
+    const Picture_File file(IGB_Read_Image, path);
+    if (!file.there()) {
         tell_unreadable(reader, path.text, errno, __LINE__);
         return false;
     }
-    if (record.image.Channels != CHANNELS || !record.image.Data) {
+    if (file.data().Channels != CHANNELS || file.without_pixels()) {
         tell_other_form(reader, path.text, __LINE__);
         return false;
     }
-    if (!make_room(entry, record.image.Dim_X, record.image.Dim_Y)) {
+    if (!make_room(entry, file.data().Dim_X, file.data().Dim_Y)) {
         tell_no_memory(reader, path.text);
         return false;
     }
-    take_pixels(entry, record.image.Data);
+    take_pixels(entry, file.data().Data);
     return true;
 }
 
@@ -192,7 +177,7 @@ bool read_tga(Icon_Entry& entry, const wchar_t* name) {
         tell_other_form(reader, path.text, __LINE__);
         return false;
     }
-    const Block work = block(pixels_of(header.width, header.height), TGA_CHANNELS);
+    const Block<BYTE> work = block(pixels_of(header.width, header.height), TGA_CHANNELS);
     if (!work || !make_room(entry, header.width, header.height)) {
         tell_no_memory(reader, path.text);
         return false;

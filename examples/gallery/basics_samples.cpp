@@ -99,6 +99,8 @@ const ButtonSample buttons[] = {
     {L"Plain lamp", Click::lamp, BUTTON_LAMP, 1, 0, 0, 0, 0},
     {L"Picture", Click::toggle, TEXT_BOTTOM, 0, 0, 0, 0, 1},
     {L"Two pictures", Click::toggle, TEXT_BOTTOM, 0, 0, 0, 0, 2},
+    {L"Open", Click::momentary, TEXT_LEFT | ICON_RIGHT, 0, 0, 0, 0, 0, L"open.rgb"},
+    {L"Search", Click::momentary, TEXT_LEFT | ICON_RIGHT, 0, 0, 0, 0, 0, L"search.rgb"},
     {L"Frame only", Click::toggle, OUTIL_EMPTY, 0, 0, 0, 0, 0},
     {L"Outline", Click::toggle, GRAPH_OUTLINE, 0, 0, 0, 0, 0},
     {L"No frame", Click::momentary, OUTIL_NO_FRAME, 0, 0, 0, 0, 0},

@@ -33,8 +33,9 @@ struct ButtonSample {
     unsigned int lamp;
     int border;
     unsigned int color;
-    int value;   // Cur_Value at the start
-    int picture; // 0 none, 1 a normal picture, 2 a selected one too
+    int value;                     // Cur_Value at the start
+    int picture;                   // 0 none, 1 a normal picture, 2 a selected one too
+    const wchar_t* icon = nullptr; // a file of the icons' folder
 };
 
 template <class Sample>

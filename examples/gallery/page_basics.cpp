@@ -1,9 +1,11 @@
 // The page "Basics": boxes, labels and buttons in each of their looks.
 #include <memory>
+#include <string>
 #include <vector>
 
 #include <brask/boxs.h>
 #include <brask/buttons.h>
+#include <brask/fenn.h>
 #include <brask/labels.h>
 
 #include "basics_samples.h"
@@ -188,6 +190,7 @@ class ButtonSection {
         for (int i = 0; i < count; i++) {
             inner.cell(i % columns, columns, i / columns, rows).give(buttons[i]);
             give_pictures(buttons[i], button_samples()[i].picture);
+            if (button_samples()[i].icon) give_icon(buttons[i], button_samples()[i].icon);
             buttons[i].Init(wnd);
         }
     }
@@ -235,6 +238,15 @@ class ButtonSection {
             paint_scene(button.Graph_Normal, button.Dim_X, button.Dim_Y, day);
         if (pictures > 1 && button.Alloc_Graph_Select(0) && button.Graph_Select)
             paint_scene(button.Graph_Select, button.Dim_X, button.Dim_Y, evening);
+    }
+
+    // The faces with a file's picture on them; without the file the button has the usual ones.
+    static void give_icon(Buttons& button, const wchar_t* file) {
+        const std::wstring folder = std::wstring(W_Inst_Path ? W_Inst_Path : L"") + L"Icons\\";
+        button.Graph_Normal = static_cast<DWORD*>(button.Free(button.Graph_Normal));
+        button.Graph_Select = static_cast<DWORD*>(button.Free(button.Graph_Select));
+        button.Graph_Normal = button.Icon(folder.c_str(), file, Colors(170, 170, 170));
+        button.Graph_Select = button.Icon(folder.c_str(), file, Colors(230, 100, 100));
     }
 
     Panel panel{L"Buttons"};

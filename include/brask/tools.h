@@ -25,9 +25,15 @@ inline constexpr DWORD TEXT_BOTTOM = 0x400;       // against the bottom edge
 inline constexpr DWORD TEXT_LEFT = 0x2000;        // against the left edge
 inline constexpr DWORD TEXT_RIGHT = 0x4000;       // against the right edge
 inline constexpr DWORD BOX_INSET = 0x10000;       // boxes: a second, inner frame
+inline constexpr DWORD ICON_KEEP_RATIO = 0x20000; // Icon: one scale for both axes
 inline constexpr DWORD TEXT_WHITE = 0x40000;      // the default text colour is white
 inline constexpr DWORD BOX_RAISED = 0x80000;      // boxes: the bevel stands out instead of sinking
 inline constexpr DWORD CADRE_NO_LINE = 0x400000;  // Cadre leaves out its dark outer rectangle
+// Icon: of these, each keeps the ratio, and those of an axis leave no margin along it.
+inline constexpr DWORD ICON_TOP = 0x1000000;      // no margin above and below; the picture is centred
+inline constexpr DWORD ICON_BOTTOM = 0x2000000;   // the same, and the picture stands at the lower edge
+inline constexpr DWORD ICON_LEFT = 0x4000000;     // no margin left and right; the picture is centred
+inline constexpr DWORD ICON_RIGHT = 0x8000000;    // the same, and the picture stands at the right edge
 inline constexpr DWORD OUTIL_REVERSE = 0x4000000; // sliders, valuators: the range is given high to low
 inline constexpr DWORD OUTIL_CAPTURE = 0x8000000; // sliders, valuators: a press latches the tracking
 
@@ -144,6 +150,19 @@ class BRASK_API Tools {
     // A new shaded surface of the control's size, darkest at the upper left; flat with OUTIL_FLAT or
     // Tool_Looks. From malloc, the caller's to free; null when memory fails or the size is beyond any screen.
     DWORD* Inside_3D(Colors color);
+
+    // A new face with a picture on it: a surface of the control's size as Inside_3D(color) makes it, and over
+    // it the picture of a file, centred, or placed by the ICON_ flags. One that does not fit into the
+    // control, less its bevel or at least 9 pixels along each axis, is shrunk; none is enlarged. `folder`
+    // ends in its separator, and may be of 770 characters together with the name. A name with ".tga" in it
+    // anywhere is read as a .tga file, any other as an .rgb file. Grey pictures (one channel) leave out their
+    // first pixel's value if that is 250 or more, else black; coloured ones (four) mix by their fourth
+    // channel, 255 being opaque. From malloc, the caller's: a Graph_Normal or Graph_Select to be set before
+    // Init, or an image for Fill_Select. Null for a width or height of 0, when the file cannot be read, and
+    // when memory fails.
+    DWORD* Icon(const wchar_t* folder, const wchar_t* name, Colors color);
+    DWORD* Icon(const char* folder, const char* name, Colors color);
+    DWORD* Icon(const wchar_t* folder, const char* name, Colors color);
 
     // --- Painting; each opens and closes its own bracket on Wnd ---
     // x1, x2 are left and right, y1, y2 bottom and top.
