@@ -32,18 +32,17 @@ std::size_t root_length(const std::wstring& path) {
     return at;
 }
 
-// Puts the current folder, or its drive alone, in front of a path that does not begin at a root.
+// Puts the current folder, or its root alone, in front of a path that does not begin at a root.
 bool complete(std::wstring& path) {
     if (root_length(path) > 0) return true;
-    wchar_t folder[path_size];
-    if (!current_folder(folder, path_size)) return false;
-    std::wstring start = folder;
-    if (is_separator(path[0])) start.resize(root_length(start));
+    std::wstring start = is_separator(path[0]) ? current_root() : current_folder();
+    if (start.empty()) return false;
+    fold(&start[0], start.size());
     path = start + L'\\' + path;
     return true;
 }
 
-// Steps through the parts: none is empty, "." and ".." are carried out.
+// Steps through the parts: none is empty, "." and ".." are carried out. The disk is not asked.
 std::wstring resolve(const std::wstring& path) {
     const std::size_t root = root_length(path);
     std::wstring result = path.substr(0, root);
@@ -59,8 +58,7 @@ std::wstring resolve(const std::wstring& path) {
         else if (!part.empty() && part != L".")
             result += L'\\' + part;
     }
-    if (is_separator(path.back()) || result.size() == root) result += L'\\';
-    return result;
+    return result + L'\\';
 }
 
 bool is_separator(char c) { return c == '\\' || c == '/'; }

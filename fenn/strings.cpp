@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <cwchar>
 
 #include <brask/fenn.h>
 
@@ -59,7 +60,6 @@ FENN_API wchar_t* Char_2_Wchar(const char* text) { return fenn::convert(fenn::wi
 FENN_API char* Wchar_2_Char(const wchar_t* text) { return fenn::convert(fenn::narrow_buffer, text); }
 
 FENN_API wchar_t* Str_To_Lower(wchar_t* text) {
-    for (wchar_t* at = text; at && *at != 0; ++at)
-        *at = fenn::to_lower(*at);
+    if (text) fenn::fold(text, std::wcslen(text));
     return text;
 }

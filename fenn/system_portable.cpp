@@ -1,4 +1,5 @@
 #include <climits>
+#include <cstdlib>
 #include <cstring>
 #include <cwctype>
 #include <locale.h>
@@ -9,42 +10,13 @@
 #include <brask/fenn_host.h>
 
 #include "fenn/system.h"
+#include "platform/portable/native_path.h"
 #include "text/unicode.h"
 
 namespace fenn {
 namespace {
 
-// Where a drive is mounted, without a separator at its end; null for a letter without a drive.
-const char* mount_point(wchar_t letter) { return letter == L'C' || letter == L'c' ? "" : nullptr; }
-
-bool is_letter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
-
-bool copy_out(const std::string& from, char* to, int size) {
-    if (!to || from.size() >= static_cast<std::size_t>(size < 0 ? 0 : size)) return false;
-    std::memcpy(to, from.c_str(), from.size() + 1);
-    return true;
-}
-
-bool copy_out(const std::wstring& from, wchar_t* to, int size) {
-    if (!to || from.size() >= static_cast<std::size_t>(size < 0 ? 0 : size)) return false;
-    std::wmemcpy(to, from.c_str(), from.size() + 1);
-    return true;
-}
-
-bool to_native(const wchar_t* path, std::string& native) {
-    const bool share = (path[0] == L'\\' || path[0] == L'/') && path[1] == path[0];
-    if (share) return false;
-    if (is_letter(path[0]) && path[1] == L':') {
-        const char* const mount = mount_point(path[0]);
-        if (!mount) return false;
-        native = mount;
-        path += 2;
-        if (*path != L'\\' && *path != L'/') native += '/';
-    }
-    for (char c : text::to_utf8(path))
-        native += c == '\\' ? '/' : c;
-    return true;
-}
+bool has_room(std::size_t length, int size) { return size > 0 && length < static_cast<std::size_t>(size); }
 
 } // namespace
 
@@ -56,38 +28,45 @@ const char* program_file() {
     return file;
 }
 
-bool current_folder(wchar_t* folder, int size) {
-    char native[PATH_MAX];
-    if (!getcwd(native, sizeof native) || !Fenn_Path_From_Native(native, folder, size)) return false;
-    std::size_t length = std::wcslen(folder);
-    if (length > 0 && folder[length - 1] == L'\\') folder[length - 1] = 0;
-    return true;
+std::wstring current_folder() {
+    char* const native = getcwd(nullptr, 0);
+    if (!native) return {};
+    std::wstring folder = platform::from_native(native);
+    std::free(native);
+    if (folder.back() == L'\\') folder.pop_back();
+    return folder;
 }
 
-wchar_t to_lower(wchar_t unit) {
+std::wstring current_root() { return L"C:"; } // as in the system's own paths, wherever the current folder is
+
+void fold(wchar_t* text, std::size_t size) {
     // The locale of the process must not matter, and may know no letter beyond ASCII.
     static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    if (unicode) return static_cast<wchar_t>(towlower_l(static_cast<wint_t>(unit), unicode));
-    return unit >= L'A' && unit <= L'Z' ? unit - L'A' + L'a' : unit;
+    for (wchar_t* const end = text + size; text < end; ++text) {
+        if (*text >= L'A' && *text <= L'Z')
+            *text += L'a' - L'A';
+        else if (*text >= 0x80 && unicode)
+            *text = static_cast<wchar_t>(towlower_l(static_cast<wint_t>(*text), unicode));
+    }
 }
 
 std::FILE* open_file(const wchar_t* path, const char* mode) {
-    std::string native;
-    return path && to_native(path, native) ? std::fopen(native.c_str(), mode) : nullptr;
+    return _wfopen(path, text::to_wide(mode).c_str());
 }
 
 } // namespace fenn
 
 FENN_API int Fenn_Path_To_Native(const wchar_t* path, char* native, int size) {
     std::string result;
-    return path && fenn::to_native(path, result) && fenn::copy_out(result, native, size);
+    if (!native || !platform::to_native(path, result) || !fenn::has_room(result.size(), size)) return 0;
+    std::memcpy(native, result.c_str(), result.size() + 1);
+    return 1;
 }
 
 FENN_API int Fenn_Path_From_Native(const char* native, wchar_t* path, int size) {
-    // A "\" inside a native name would turn into a separator.
-    if (!native || std::strchr(native, '\\')) return 0;
-    std::wstring result = native[0] == '/' ? L"C:" : L"";
-    for (wchar_t c : text::to_wide(native))
-        result += c == L'/' ? L'\\' : c;
-    return fenn::copy_out(result, path, size);
+    if (!native || !path) return 0;
+    const std::wstring result = platform::from_native(native);
+    if (!fenn::has_room(result.size(), size)) return 0;
+    std::wmemcpy(path, result.c_str(), result.size() + 1);
+    return 1;
 }

@@ -30,9 +30,9 @@ struct IGB_data {
     short Channels; // 1: grey; 4: blue, green, red, alpha
 };
 
-// One entry of a scanned folder; the list ends with Type 0.
+// One sub-folder of a scanned folder; the list ends with Type 0.
 struct Dir_Ulmen {
-    DWORD Type;
+    DWORD Type;              // not 0
     unsigned char No_Access; // not 0: the folder cannot be entered
     wchar_t* Name;           // the list's, until Scan_Free
 };
@@ -94,8 +94,9 @@ FENN_API wchar_t* Error_Perror(int number); // the system's text for an errno va
 FENN_API wchar_t* Char_2_Wchar(const char* text); // UTF-8; a stray byte becomes U+0080 to U+00FF
 FENN_API char* Wchar_2_Char(const wchar_t* text); // to UTF-8
 FENN_API wchar_t* Str_To_Lower(wchar_t* text);    // in place; gives its argument
-// Rewrites a path to an absolute one, in place, in a buffer of 2048 characters; 0, and the path as it was,
-// when the result does not fit.
+// Rewrites a path to an absolute one with a separator at its end, in place, in a buffer of 2048 characters.
+// What it puts in front is in lower case, and the disk is not asked. 0, and the path as it was, when the
+// result does not fit.
 FENN_API int Path_To_Abs(wchar_t* path);
 // Splits a path; each output may be null, else has room for 771 characters: folder with its separator, file
 // name, file name without its ending.
@@ -107,13 +108,20 @@ FENN_API void RGB_to_HLS(float r, float g, float b, float* h, float* l, float* s
 FENN_API void HLS_to_RGB(float h, float l, float s, float* r, float* g, float* b);
 
 // --- Files ---
-// .rgb and .tga pictures into `image`; 0 when it failed, and errno is set. `unused` is null.
+// .rgb and .tga pictures into `image`; 0, an empty image and errno when it failed: EINVAL for content that is
+// damaged, not served, or of more than 32,767 by 32,767 or 2^26 pixels. A .rgb has the channels of its file
+// (2: grey, alpha; 3: blue, green, red), a .tga 1 or 4. `unused` is null.
 FENN_API int IGB_Read_Image(const wchar_t* file, IGB_data* image, void* unused);
 FENN_API int TGA_Read_Image(const wchar_t* file, IGB_data* image, void* unused);
 FENN_API void IGB_Free(IGB_data* image);
-// Lists a folder; count gets the number of entries. Null when it failed; free the list with Scan_Free.
+// Lists the sub-folders of a folder, links to folders included, in the order of their lower-case names; "."
+// and
+// ".." are left out. `count`, which may be null, gets their number. Null, with errno set, when the folder
+// cannot be listed; free the list with Scan_Free.
 FENN_API Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count);
 FENN_API void Scan_Free(Dir_Ulmen* list);
-FENN_API int Is_Tree(const wchar_t* path); // not 0: the folder has sub-folders
+// Not 0: the folder has a sub-folder whose name does not begin with ".". 0, with errno set, when it cannot be
+// listed.
+FENN_API int Is_Tree(const wchar_t* path);
 
 #endif

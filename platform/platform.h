@@ -28,6 +28,8 @@
 #include "portable/clipboard.h"
 
 #include "portable/dialog.h"
+
+#include "portable/drives.h"
 #endif
 
 #endif

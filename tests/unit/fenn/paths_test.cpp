@@ -1,12 +1,7 @@
-#include <gtest/gtest.h>
+#include "scratch.h"
 
 #include <cstring>
 #include <cwchar>
-#include <filesystem>
-#include <string>
-
-#include <brask/fenn.h>
-#include <brask/fenn_host.h>
 
 namespace {
 
@@ -37,43 +32,50 @@ void expect_parts(const char* path, const char* folder, const char* file, const 
     EXPECT_STREQ(parts.bare, bare) << path;
 }
 
-TEST(Paths, AbsoluteOnesAreTidied) {
-    EXPECT_EQ(absolute(L"C:\\a\\b"), L"C:\\a\\b");
+TEST(Paths, AbsoluteOnesAreTidiedAndEndInASeparator) {
+    EXPECT_EQ(absolute(L"C:\\a\\b"), L"C:\\a\\b\\");
     EXPECT_EQ(absolute(L"C:\\a\\b\\"), L"C:\\a\\b\\");
-    EXPECT_EQ(absolute(L"C:/a//b\\.\\c"), L"C:\\a\\b\\c");
-    EXPECT_EQ(absolute(L"C:\\a\\b\\..\\c"), L"C:\\a\\c");
+    EXPECT_EQ(absolute(L"C:/a//b\\.\\c"), L"C:\\a\\b\\c\\");
+    EXPECT_EQ(absolute(L"C:\\a\\b\\..\\c"), L"C:\\a\\c\\");
     EXPECT_EQ(absolute(L"C:\\a\\.."), L"C:\\");
-    EXPECT_EQ(absolute(L"C:\\..\\..\\a"), L"C:\\a");
+    EXPECT_EQ(absolute(L"C:\\..\\..\\a"), L"C:\\a\\");
+    EXPECT_EQ(absolute(L"C:\\"), L"C:\\");
     EXPECT_EQ(absolute(L"d:"), L"d:\\");
-    EXPECT_EQ(absolute(L"C:\\...\\a.b."), L"C:\\...\\a.b.");
+    EXPECT_EQ(absolute(L"C:\\...\\a.b."), L"C:\\...\\a.b.\\");
 }
 
 TEST(Paths, SharesKeepTheirRoot) {
-    EXPECT_EQ(absolute(L"\\\\server\\share\\a\\..\\..\\..\\b"), L"\\\\server\\share\\b");
+    EXPECT_EQ(absolute(L"\\\\server\\share\\a\\..\\..\\..\\b"), L"\\\\server\\share\\b\\");
     EXPECT_EQ(absolute(L"//server/share"), L"\\\\server\\share\\");
 }
 
-TEST(Paths, RelativeOnesStartInTheCurrentFolder) {
+TEST(Paths, RelativeOnesStartInTheCurrentFolderWhichIsPutInLowerCase) {
     const auto before = std::filesystem::current_path();
-    const auto folder = std::filesystem::temp_directory_path() / "fenn paths";
-    std::filesystem::create_directories(folder);
-    std::filesystem::current_path(folder);
-    wchar_t here[2048];
-    ASSERT_EQ(Fenn_Path_From_Native(std::filesystem::current_path().u8string().c_str(), here, 2048), 1);
-    const std::wstring start = here;
-    EXPECT_EQ(absolute(L"a\\b"), start + L"\\a\\b");
-    EXPECT_EQ(absolute(L"./a/../b"), start + L"\\b");
-    EXPECT_EQ(absolute(L""), start);
-    EXPECT_EQ(absolute(L".."), start.substr(0, start.rfind(L'\\')));
-    EXPECT_EQ(absolute(L"\\a"), start.substr(0, 2) + L"\\a");
+    const Scratch scratch;
+    scratch.make("Folder");
+    char folder[4096];
+    ASSERT_EQ(Fenn_Path_To_Native(scratch.path("Folder").c_str(), folder, sizeof folder), 1);
+    std::filesystem::current_path(std::filesystem::u8path(folder));
+    std::wstring start = scratch.path("Folder");
+    Str_To_Lower(&start[0]);
+    EXPECT_EQ(absolute(L"A\\b"), start + L"\\A\\b\\");
+    EXPECT_EQ(absolute(L"./a/../b"), start + L"\\b\\");
+    EXPECT_EQ(absolute(L""), start + L"\\");
+    EXPECT_EQ(absolute(L"."), start + L"\\");
+    EXPECT_EQ(absolute(L".."), start.substr(0, start.rfind(L'\\') + 1));
+    EXPECT_EQ(absolute(L"\\A"), start.substr(0, 2) + L"\\A\\");
     std::filesystem::current_path(before);
-    std::filesystem::remove(folder);
 }
 
 TEST(Paths, WhatDoesNotFitIsLeftAsItWas) {
-    std::wstring path = L"C:\\" + std::wstring(2044, L'x'); // 2047 characters
+    std::wstring path = L"C:\\" + std::wstring(2043, L'x'); // 2047 characters with the separator
     path.resize(2048);
     EXPECT_EQ(Path_To_Abs(&path[0]), 1);
+    path = L"C:\\" + std::wstring(2044, L'x');
+    path.resize(2048);
+    const std::wstring longer = path;
+    EXPECT_EQ(Path_To_Abs(&path[0]), 0);
+    EXPECT_EQ(path, longer);
     std::wstring relative(2040, L'x');
     relative.resize(2048);
     const std::wstring before = relative;
@@ -169,12 +171,35 @@ TEST(Paths, DriveCIsTheRootFileSystem) {
     EXPECT_STREQ(path, L"a\\b");
 }
 
+TEST(Paths, EveryNativeNameComesBackWhole) {
+    const struct {
+        const char* native;
+        std::wstring path;
+    } rows[] = {
+        {"/a\\b", L"C:\\a\xF05C"
+                  L"b"},
+        {"/\xFF/x", std::wstring(L"C:\\") + wchar_t(0xDCFF) + L"\\x"},
+        {"/\xC3\xA9\xE9", std::wstring(L"C:\\\u00E9") + wchar_t(0xDCE9)},
+        {"/\xEF\x81\x9C", std::wstring(L"C:\\") + wchar_t(0xDCEF) + wchar_t(0xDC81) + wchar_t(0xDC9C)},
+        {"c:x", L".\\c:x"},
+    };
+    for (const auto& row : rows) {
+        wchar_t path[64];
+        EXPECT_EQ(Fenn_Path_From_Native(row.native, path, 64), 1);
+        EXPECT_EQ(path, row.path);
+        char native[64];
+        EXPECT_EQ(Fenn_Path_To_Native(path, native, 64), 1);
+        EXPECT_EQ(std::string(native), (row.native[0] == '/' ? "" : "./") + std::string(row.native));
+    }
+}
+
 TEST(Paths, WhatNoMountHoldsIsRefused) {
     char native[256];
-    wchar_t path[256];
     EXPECT_EQ(Fenn_Path_To_Native(L"\\\\server\\share\\a", native, 256), 0);
+    EXPECT_EQ(Fenn_Path_To_Native(L"B:\\a", native, 256), 0);
     EXPECT_EQ(Fenn_Path_To_Native(L"!:\\a", native, 256), 1); // no drive letter: a name
-    EXPECT_EQ(Fenn_Path_From_Native("/a\\b", path, 256), 0);  // its "\" would become a separator
+    const wchar_t lone[] = {L'a', 0xD800, 0};
+    EXPECT_EQ(Fenn_Path_To_Native(lone, native, 256), 0); // no name can hold it
 }
 
 #endif

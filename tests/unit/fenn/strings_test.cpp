@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <string>
 #include <thread>
 
@@ -49,32 +48,6 @@ TEST(Strings, LowerCaseInPlaceForEveryAlphabet) {
 TEST(Strings, ErrorNumbersHaveTexts) {
     EXPECT_STREQ(Error_Perror(ENOENT), L"No such file or directory");
     EXPECT_STRNE(Error_Perror(123456), L"");
-}
-
-TEST(Files, WhatCannotBeReadYetFailsWithItsReason) {
-    IGB_data image{};
-    int count = 7;
-    const auto fails = [](bool failed) {
-        const bool both = failed && errno == ENOSYS;
-        errno = 0;
-        return both;
-    };
-    errno = 0;
-    EXPECT_TRUE(fails(IGB_Read_Image(L"a.rgb", &image, nullptr) == 0));
-    EXPECT_TRUE(fails(TGA_Read_Image(L"a.tga", &image, nullptr) == 0));
-    EXPECT_TRUE(fails(Scan_Dir(L"C:\\", &count) == nullptr));
-    EXPECT_EQ(count, 0);
-    EXPECT_TRUE(fails(Is_Tree(L"C:\\") == 0));
-    Scan_Free(nullptr);
-}
-
-TEST(Files, FreeingAPictureLeavesItEmpty) {
-    IGB_data image{static_cast<unsigned char*>(std::malloc(16)), 2, 2, 4};
-    IGB_Free(&image);
-    EXPECT_EQ(image.Data, nullptr);
-    EXPECT_EQ(image.Dim_X, 0);
-    IGB_Free(&image);
-    IGB_Free(nullptr);
 }
 
 } // namespace
