@@ -10,8 +10,12 @@ get_property(fenn_sources GLOBAL PROPERTY HOUSE_SOURCES_fenn)
 
 add_library(brask STATIC ${brask_sources} $<TARGET_OBJECTS:text>)
 target_link_libraries(brask PUBLIC brask_headers platform_names)
-# The third level makes the controls a fifth larger, and is felt only in what they call.
+# The third level makes the controls a fifth larger, and is felt only in what they call. What is made of controls
+# spends its time in these, and is written for room.
 target_compile_options(brask PRIVATE $<$<CONFIG:Release>:-O2>)
+set(brask_compound ${brask_sources})
+list(FILTER brask_compound INCLUDE REGEX "/(items|color|console|browser|popup)/[^/]*$")
+set_source_files_properties(${brask_compound} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-Os>)
 target_compile_definitions(brask PUBLIC BRASK_STATIC FENN_STATIC)
 target_include_directories(brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
                            ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console ${HOUSE_FLOORS}/browser)
@@ -20,6 +24,9 @@ add_library(fenn STATIC ${fenn_sources})
 target_link_libraries(fenn PUBLIC brask_headers platform raster text PRIVATE fenn_system)
 target_compile_definitions(fenn PUBLIC FENN_STATIC)
 target_include_directories(fenn PUBLIC ${HOUSE_FLOORS}/fenn)
+set(fenn_seldom ${fenn_sources})
+list(FILTER fenn_seldom EXCLUDE REGEX "/(painter|shapes|reports|text|text_[a-z]*|window_[a-z]*)[.]cpp$")
+set_source_files_properties(${fenn_seldom} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-Os>)
 
 # On Windows what a library exports is marked in the objects, so the shared ones are compiled for themselves.
 if(WIN32)
