@@ -93,6 +93,7 @@ int main(int argc, char** argv) {
     }
     if (options.trace) traces_print(true);
     Fenn_Builtin_Font(options.builtin);
+    files_start(options.folder);
     if (options.layout) return layouts(options);
     if (!options.snapshot.empty()) return snapshots(options);
     return open_window(options, *entry);

@@ -14,6 +14,10 @@ bool take_snapshot(Options& options, const char* value) {
     options.snapshot = value;
     return *value != 0;
 }
+bool take_folder(Options& options, const char* value) {
+    options.folder = value;
+    return *value != 0;
+}
 bool take_size(Options& options, const char* value) {
     const int largest = 16384;
     char rest;
@@ -34,6 +38,7 @@ struct Option {
 
 const Option table[] = {
     {"--page", "NAME", "show this page first", take_page},
+    {"--folder", "PATH", "start the page of files in this folder instead of the user's own", take_folder},
     {"--size", "WxH", "client area in pixels, 1x1 to 16384x16384; 1280x800 if not given", take_size},
     {"--snapshot", "FOLDER", "draw every page into FOLDER as a PNG file, without a display, and leave",
      take_snapshot},

@@ -7,6 +7,7 @@
 struct Options {
     std::string page;     // name of the page to show; empty: the first
     std::string snapshot; // folder for pictures of every page; empty: open a window
+    std::string folder;   // what the page of files starts with; empty: the user's own
     int width = 1280;     // client area, pixels
     int height = 800;
     bool trace = false;   // print the trace lines

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include <brask/tools.h>
 
@@ -72,5 +73,8 @@ extern const PageEntry pages[];
 extern const std::size_t page_count;
 // The entry of that name, null when there is none.
 const PageEntry* page_find(const char* name);
+
+// The folder that the page "Files" starts with, a native path; empty: the user's own.
+void files_start(const std::string& folder);
 
 #endif

@@ -7,10 +7,11 @@ std::unique_ptr<Page> make_page_values();
 std::unique_ptr<Page> make_page_items();
 std::unique_ptr<Page> make_page_colour();
 std::unique_ptr<Page> make_page_console();
+std::unique_ptr<Page> make_page_files();
 
 const PageEntry pages[] = {
     {"Basics", make_page_basics}, {"Values", make_page_values},   {"Items", make_page_items},
-    {"Colour", make_page_colour}, {"Console", make_page_console},
+    {"Colour", make_page_colour}, {"Console", make_page_console}, {"Files", make_page_files},
 };
 const std::size_t page_count = sizeof pages / sizeof pages[0];
 

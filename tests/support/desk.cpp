@@ -10,6 +10,12 @@
 
 namespace desk {
 
+struct Drive {
+    bool present;
+    unsigned type;
+    const wchar_t* label;
+};
+
 struct State {
     int key_states[256] = {};
     bool now[256] = {};
@@ -18,6 +24,7 @@ struct State {
     int dpi_x = 96, dpi_y = 96;
     bool refuse = false;
     HGDIOBJ selected = nullptr;
+    Drive drives[26] = {};
 };
 static State state;
 static std::uintptr_t fonts_made = 0; // goes on over resets: the library's cache remembers old handles
@@ -70,6 +77,11 @@ void resolution(int x, int y) {
     state.dpi_y = y;
 }
 void refuse_fonts(bool refuse) { state.refuse = refuse; }
+
+void drive(char letter, unsigned type, const wchar_t* label) {
+    state.drives[letter - 'A'] = {true, type, label};
+}
+static const Drive& drive_of(const wchar_t* path) { return state.drives[path[0] - L'A']; }
 
 static void note(const std::string& line) { recorder::note(recorder::kSystem, line); }
 
@@ -168,6 +180,28 @@ DESK_FUNCTION(BOOL, DPtoLP, HDC dc, LPPOINT points, int count) {
     for (int i = 0; i < count; ++i)
         line += ", " + std::to_string(points[i].x) + ", " + std::to_string(points[i].y);
     note(line + ")");
+    return TRUE;
+}
+
+DESK_FUNCTION(DWORD, GetLogicalDrives) {
+    note("GetLogicalDrives()");
+    DWORD mask = 0;
+    for (int i = 0; i < 26; ++i)
+        mask |= static_cast<DWORD>(desk::state.drives[i].present) << i;
+    return mask;
+}
+
+DESK_FUNCTION(UINT, GetDriveTypeW, LPCWSTR root) {
+    note("GetDriveTypeW(" + recorder::quoted(root) + ")");
+    return desk::drive_of(root).type;
+}
+
+DESK_FUNCTION(BOOL, GetVolumeInformationW, LPCWSTR root, LPWSTR name, DWORD room, LPDWORD, LPDWORD, LPDWORD,
+              LPWSTR, DWORD) {
+    note("GetVolumeInformationW(" + recorder::quoted(root) + ", " + std::to_string(room) + ")");
+    const std::wstring label = desk::drive_of(root).label ? desk::drive_of(root).label : L"";
+    if (!desk::drive_of(root).label || label.size() >= room) return FALSE;
+    name[label.copy(name, label.size())] = 0;
     return TRUE;
 }
 

@@ -48,6 +48,9 @@ struct Clipboard {
 Clipboard& clipboard();
 void copy(const std::wstring& text); // with a terminator
 
+// --- Drives; none after a reset ---
+void drive(char letter, unsigned type, const wchar_t* label); // a null label: the volume does not answer
+
 } // namespace desk
 
 #endif

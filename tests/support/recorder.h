@@ -73,6 +73,14 @@ void file(const std::wstring& path, const File& file);
 void reason(int number);
 int held(); // pictures that were delivered and not given back yet
 
+// --- Folders for Scan_Dir and Is_Tree; full paths with a final backslash, told apart exactly ---
+void add_folder(const std::wstring& path);    // and all above it
+void remove_folder(const std::wstring& path); // and all under it
+// unreadable: Scan_Dir gives null; marked: the folder's entry says so too.
+enum class Lock { open, unreadable, marked };
+void lock_folder(const std::wstring& path, Lock lock);
+int open_lists(); // lists of Scan_Dir that were not given back
+
 // --- The rules of the bracket ---
 // Called at each breach; the start prints and aborts.
 void on_breach(void (*handler)(const char* what));

@@ -48,6 +48,7 @@ HDC context() {
 
 void reset() {
     state() = State();
+    reset_folders();
     hwnd = nullptr;
     Zeb_DC = nullptr;
     Current_Color = 0;

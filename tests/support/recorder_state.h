@@ -32,6 +32,7 @@ struct State {
 };
 
 State& state();
+void reset_folders();
 void breach(const std::string& what);
 std::string escaped(const std::string& text); // control characters written out
 

@@ -105,8 +105,6 @@ wchar_t* Str_To_Lower(wchar_t* text) {
     return text;
 }
 
-int Path_To_Abs(wchar_t* path) { return path && *path; }
-
 void Get_Generic_Name(char* path, char* folder, char* file, char* bare) {
     const std::string whole = path ? path : "";
     const std::size_t edge = whole.find_last_of("/\\");
@@ -153,14 +151,4 @@ void IGB_Free(IGB_data* image) {
     if (image->Data) state().held--;
     delete[] image->Data;
     image->Data = nullptr;
-}
-Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count) {
-    note(kService, "Scan_Dir(" + quoted(folder) + ")");
-    if (count) *count = 0;
-    return nullptr;
-}
-void Scan_Free(Dir_Ulmen*) { note(kService, "Scan_Free()"); }
-int Is_Tree(const wchar_t* path) {
-    note(kService, "Is_Tree(" + quoted(path) + ")");
-    return 0;
 }
