@@ -52,6 +52,26 @@ inline Place middle(int index) {
     return {at.x + button_width / 2, at.y + button_height / 2};
 }
 
+// A list of one column, scrolled row by row.
+inline constexpr int list_width = 800;
+inline constexpr int list_height = 600;
+inline constexpr int list_row = 20;
+inline constexpr int list_rows = 10000;
+
+inline Label row_label(int index) {
+    Label label;
+    std::snprintf(label.text, sizeof label.text, "Item %06d", index % 1000000);
+    return label;
+}
+
+// The row at the top after `step` moves by one: a long way down and the same way up again, all of it far from
+// both ends.
+inline int top_row(long step) {
+    constexpr long way = 1000;
+    const long there = step % (2 * way);
+    return 100 + static_cast<int>(there < way ? there : 2 * way - there);
+}
+
 } // namespace layout
 
 #endif

@@ -236,11 +236,10 @@ void Lists::Update() {
     if (Flag & GRAPH_OUTLINE) return;
     for (int i = Shown_Begin; i < std::min(Shown_End, NbItem) && Item && Item[i]; i++)
         Item[i]->Shown = 0;
+    place_items(*this);
     const Rows rows = rows_in(*this, view);
-    for (int i = 0; i < NbItem && Item && Item[i]; i++) {
+    for (int i = rows.begin; i < rows.end; i++) {
         Buttons& item = *Item[i];
-        place_item(*this, i);
-        if (i < rows.begin || i >= rows.end) continue;
         item.Shown = lies_within(item, view);
         if (!item.Shown) continue;
         item.Init(Wnd);

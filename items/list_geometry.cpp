@@ -134,6 +134,23 @@ bool lies_within(const Tools& item, const Area& area) {
            Px(item.Pos_Y) + item.Dim_Y <= area.y2;
 }
 
+int place_items(const Lists& list) {
+    constexpr int AHEAD = 24;
+    Buttons* const* const items = list.Item;
+    const int limit = items ? list.NbItem : 0;
+    const Px step_x = list.Step_X, step_y = list.Step_Y;
+    Px x = list.First_X, y = list.First_Y;
+    int asked = 0;
+    for (int i = 0; i < limit; i++, x = x + step_x, y = y + step_y) {
+        for (; asked < limit && asked <= i + AHEAD && items[asked]; asked++)
+            __builtin_prefetch(&items[asked]->Pos_X, 1);
+        if (i == asked) return i;
+        items[i]->Pos_X = x;
+        items[i]->Pos_Y = y;
+    }
+    return std::max(limit, 0);
+}
+
 Rows rows_in(const Lists& list, const Area& area) {
     const Rows rows =
         list.Step_X ? rows_between(list, area.x1, area.x2) : rows_between(list, area.y1, area.y2);

@@ -118,6 +118,10 @@ void draw_fill_rectangle(int left, int top, int right, int bottom) {
 void draw_polygon(int count, const int* xs, const int* ys) {
     inside("draw_polygon");
     note(kDraw, "draw_polygon(" + std::to_string(count) + points(count, xs, ys) + ")");
+    if (!picture() || count < 1) return;
+    picture()->move(xs[0], ys[0]);
+    for (int i = 1; i < count; ++i)
+        picture()->line_to(xs[i], ys[i]);
 }
 
 void draw_fill_polygon(int count, const int* xs, const int* ys) {

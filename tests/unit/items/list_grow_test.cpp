@@ -54,51 +54,6 @@ TEST_F(List, EndsWithItsItemsThenSliderThenBox) {
 
 // --- Grow ---
 
-TEST_F(List, GrowMakesExactlySoManyItemsAndANullEntry) {
-    for (const int count : {3, 7, 1, 4, 0, 2}) {
-        EXPECT_EQ(list.Grow(count, 0), 1);
-        EXPECT_EQ(list.NbItem, count);
-        ASSERT_NE(list.Item, nullptr);
-        for (int i = 0; i < count; i++)
-            EXPECT_NE(list.Item[i], nullptr);
-        EXPECT_EQ(list.Item[count], nullptr);
-    }
-}
-
-TEST_F(List, GrowKeepsTheItemsThatStay) {
-    list.Grow(3, 0);
-    Buttons* const kept[] = {list.Item[0], list.Item[1]};
-    list.Grow(5, 0);
-    EXPECT_EQ(list.Item[0], kept[0]);
-    EXPECT_EQ(list.Item[1], kept[1]);
-    list.Grow(2, 0);
-    EXPECT_EQ(list.Item[0], kept[0]);
-    EXPECT_EQ(list.Item[1], kept[1]);
-}
-
-TEST_F(List, GrowWritesNoTraceOfItsOwn) {
-    EXPECT_EQ(times(everything([&] { list.Grow(3, 0); }), "Lists::"), 0u);
-    EXPECT_EQ(times(everything([&] { list.Grow(1, 0); }), "<<< out Lib_Brask: Buttons::~Buttons()"), 2u);
-    EXPECT_EQ(everything([&] { list.Grow(1, 0); }), "");
-}
-
-TEST_F(List, ANewItemHasTheGivenFlagsOrThoseThatPassOn) {
-    struct Row {
-        DWORD list;
-        int given;
-        DWORD item;
-    };
-    for (const Row& row :
-         {Row{0, 0, CADRE_NO_LINE}, Row{0, 0x21, 0x21 | CADRE_NO_LINE},
-          Row{0xFFFFFFFF, 0, 0xF127750 | CADRE_NO_LINE}, Row{0xFFFFFFFF, 0x2, 0x2 | CADRE_NO_LINE},
-          Row{0xF127750 ^ 0xFFFFFFFFu, 0, CADRE_NO_LINE}}) {
-        Lists fresh;
-        fresh.Flag = row.list;
-        fresh.Grow(1, row.given);
-        EXPECT_EQ(fresh.Item[0]->Flag, row.item) << std::hex << row.list << ' ' << row.given;
-    }
-}
-
 TEST_F(List, ANewItemHasTheClipOfTheFrameAndNothingElse) {
     list.Box.Clip_X = 1, list.Box.Clip_Y = 2, list.Box.Clip_Dim_X = 3, list.Box.Clip_Dim_Y = 4;
     list.Clip_X = 91, list.Clip_Dim_X = 93;
@@ -111,25 +66,6 @@ TEST_F(List, ANewItemHasTheClipOfTheFrameAndNothingElse) {
     EXPECT_EQ(item(0).Dim_X, 0);
     EXPECT_EQ(item(0).W_Name, nullptr);
     EXPECT_EQ(item(0).test, 0);
-}
-
-TEST_F(List, GrowToThePresentCountOnlyCounts) {
-    list.Grow(3, 0);
-    Buttons** const array = list.Item;
-    list.NbItem = 77;
-    EXPECT_EQ(list.Grow(3, 0x20), 1);
-    EXPECT_EQ(list.NbItem, 3);
-    EXPECT_EQ(list.Item, array);
-    EXPECT_EQ(item(0).Flag, CADRE_NO_LINE);
-}
-
-TEST_F(List, ANegativeCountIsZero) {
-    EXPECT_EQ(list.Grow(-5, 0), 1);
-    EXPECT_EQ(list.NbItem, 0);
-    list.Grow(4, 0);
-    EXPECT_EQ(list.Grow(INT_MIN, 0), 1);
-    EXPECT_EQ(list.NbItem, 0);
-    EXPECT_EQ(list.Item[0], nullptr);
 }
 
 TEST_F(List, WithoutMemoryGrowReportsAndLosesTheItems) {

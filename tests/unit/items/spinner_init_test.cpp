@@ -88,55 +88,6 @@ TEST_F(Spinner, ACopySharesTheChoices) {
 
 // --- Grow ---
 
-TEST_F(Spinner, GrowMakesExactlySoManyChoicesAndANullEntry) {
-    for (const int count : {3, 7, 1, 4, 0, 2}) {
-        EXPECT_EQ(spin.Grow(count, 0), 1);
-        EXPECT_EQ(spin.NbItem, count);
-        ASSERT_NE(spin.Item, nullptr);
-        for (int i = 0; i < count; i++)
-            EXPECT_NE(spin.Item[i], nullptr);
-        EXPECT_EQ(spin.Item[count], nullptr);
-    }
-    for (const int none : {-1, INT_MIN}) {
-        EXPECT_EQ(spin.Grow(none, 0), 1);
-        EXPECT_EQ(spin.NbItem, 0);
-        EXPECT_EQ(spin.Item[0], nullptr);
-    }
-}
-
-TEST_F(Spinner, GrowKeepsTheChoicesThatStay) {
-    spin.Grow(3, 0);
-    Buttons* const kept[] = {spin.Item[0], spin.Item[1]};
-    for (const int count : {5, 2}) {
-        spin.Grow(count, 0);
-        EXPECT_EQ(spin.Item[0], kept[0]);
-        EXPECT_EQ(spin.Item[1], kept[1]);
-    }
-}
-
-TEST_F(Spinner, GrowWritesNoTraceOfItsOwn) {
-    EXPECT_EQ(everything([&] { spin.Grow(3, 0); }).find("Selects::"), std::string::npos);
-    EXPECT_EQ(everything([&] { spin.Grow(1, 0); }).find("Selects::"), std::string::npos);
-    EXPECT_EQ(everything([&] { spin.Grow(1, 0); }), "");
-}
-
-TEST_F(Spinner, ANewChoiceHasTheGivenFlagsOrThoseThatPassOn) {
-    struct Row {
-        DWORD control;
-        int given;
-        DWORD item;
-    };
-    for (const Row& row :
-         {Row{0, 0, CADRE_NO_LINE}, Row{0, 0x21, 0x21 | CADRE_NO_LINE},
-          Row{0xFFFFFFFF, 0, 0xF127750 | CADRE_NO_LINE}, Row{0xFFFFFFFF, 0x2, 0x2 | CADRE_NO_LINE},
-          Row{0xF127750 ^ 0xFFFFFFFFu, 0, CADRE_NO_LINE}}) {
-        Selects fresh;
-        fresh.Flag = row.control;
-        fresh.Grow(1, row.given);
-        EXPECT_EQ(fresh.Item[0]->Flag, row.item) << std::hex << row.control << ' ' << row.given;
-    }
-}
-
 TEST_F(Spinner, ANewChoiceHasTheControlsClipAndNothingElse) {
     spin.Clip_X = 1, spin.Clip_Y = 2, spin.Clip_Dim_X = 3, spin.Clip_Dim_Y = 4;
     spin.Wnd = recorder::window();
@@ -150,16 +101,6 @@ TEST_F(Spinner, ANewChoiceHasTheControlsClipAndNothingElse) {
     EXPECT_EQ(item(0).W_Name, nullptr);
     EXPECT_EQ(item(0).Cur_Value, 0);
     EXPECT_EQ(item(0).test, 0);
-}
-
-TEST_F(Spinner, GrowToThePresentCountOnlyCounts) {
-    spin.Grow(3, 0);
-    Buttons** const array = spin.Item;
-    spin.NbItem = 77;
-    EXPECT_EQ(spin.Grow(3, 0x20), 1);
-    EXPECT_EQ(spin.NbItem, 3);
-    EXPECT_EQ(spin.Item, array);
-    EXPECT_EQ(item(0).Flag, CADRE_NO_LINE);
 }
 
 TEST_F(Spinner, WithoutMemoryGrowReportsAndEveryOperationFindsNoChoice) {
