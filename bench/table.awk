@@ -39,22 +39,23 @@ FNR == 1 || !header {
     kind = trimmed(cell[2])
     goal = trimmed(cell[3])
     ours = trimmed(cell[4])
+    upward = kind == "more" || kind == "least" # the greater the better
     best = ""
     count = split(trimmed(cell[5]), others, " ")
     for (i = 1; i <= count; i++)
         if (others[i] in values &&
-            (best == "" || (kind == "more") == (median(others[i]) > median(best))))
+            (best == "" || upward == (median(others[i]) > median(best))))
             best = others[i]
     if (ours in values && best != "" && median(best) > 0)
         ratio = median(ours) / median(best)
     else
         ratio = ""
-    judged = kind == "most" ? (ours in values ? median(ours) : "") : ratio
+    judged = kind == "most" || kind == "least" ? (ours in values ? median(ours) : "") : ratio
     if (goal == "-")
         verdict = ""
     else if (judged == "")
         verdict = "not seen"
-    else if (kind == "more" ? judged >= goal + 0 : judged <= goal + 0)
+    else if (upward ? judged >= goal + 0 : judged <= goal + 0)
         verdict = "met"
     else
         verdict = "MISSED"
@@ -63,5 +64,5 @@ FNR == 1 || !header {
     sub(/\/.*/, "", owner)
     printf "%-31s %-30s %-44s %8s %9s %s\n", trimmed(cell[1]), shown(ours),
         best == "" ? "-" : owner " " shown(best), ratio == "" ? "-" : sprintf("%.2f", ratio),
-        goal == "-" ? "" : (kind == "more" ? ">= " : "<= ") goal, verdict
+        goal == "-" ? "" : (upward ? ">= " : "<= ") goal, verdict
 }

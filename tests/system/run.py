@@ -5,10 +5,12 @@ import shutil
 import subprocess
 import sys
 
+import console
 import documents
 import hosts
 import items
 import pages
+import typing_keys
 import values
 from display import Display, System
 
@@ -69,7 +71,7 @@ def main(native_folder, windows_folder):
             systems.append(windows)
         for system in systems:
             tally.scene(hosts.options, system)
-            for scene in (pages.basics, values.values, items.items, pages.sizes, hosts.hello):
+            for scene in (pages.basics, values.values, items.items, typing_keys.typing, console.console, pages.sizes, hosts.hello):
                 tally.scene(scene, system, display)
         if windows:
             tally.scene(hosts.same_pictures, windows, systems[0])
