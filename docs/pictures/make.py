@@ -2,6 +2,8 @@
 """Draws the pictures of the pages here anew from a build of the gallery.
 
     docs/pictures/make.py BUILD
+
+Those of the page of files stay as they are: they would show the folders of this machine.
 """
 
 import os
@@ -17,6 +19,7 @@ from pictures import read_png
 
 build = sys.argv[1]
 subprocess.run([os.path.join(build, "bin/gallery"), "--snapshot", here], check=True)
+subprocess.run(["git", "-C", here, "checkout", "-q", "files.png"], check=True)
 for name in os.listdir(here):
     if name.endswith(".png"):
         picture = os.path.join(here, name)

@@ -3,7 +3,7 @@
 import os
 import tempfile
 
-from display import wait_for
+from display import Window, wait_for
 from pages import SIZE, Session
 from rules import BLACK, GREY
 
@@ -23,6 +23,11 @@ class Tree:
     def picture(self):
         rows = self.rows
         return self.window.picture().crop(rows.x, rows.down(rows.y + rows.height), rows.width, rows.height)
+
+    def console(self):
+        place = self.session.controls["console", ""]
+        top = place.down(place.y + place.height)
+        return self.window.picture().crop(place.x, top, place.width, place.height).rows
 
     def chosen(self):
         """Left of the chosen row's picture and bottom of the row, in the library's coordinates; None out of view."""
@@ -59,8 +64,7 @@ def files(tally, system, display):
         start = os.path.join(folder, "start")
         for name in FOLDERS:
             os.makedirs(os.path.join(start, name))
-        path = "Z:" + start.replace("/", "\\") if system.name == "wine" else start
-        session = Session(tally, system, display, "--page", "Files", "--folder", path)
+        session = Session(tally, system, display, "--page", "Files", "--folder", on(system, start))
         try:
             tree = Tree(session)
             found = wait_for(tree.chosen)
@@ -72,6 +76,30 @@ def files(tally, system, display):
             session.check("Esc closes the page of files", None if session.window.ended() == 0 else "no end, or not with 0")
         finally:
             session.window.kill()
+
+
+def on(system, path):
+    """A path as the programs of that system have it."""
+    return "Z:" + path.replace("/", "\\") if system.name == "wine" else path
+
+
+def pick(tally, system, display):
+    """The small picker: its button gives the folder that it was started with, or the one that was clicked."""
+    with tempfile.TemporaryDirectory() as folder:
+        start = os.path.join(folder, "Größe")
+        os.mkdir(start)
+        window = Window(display, system, "pick", "Pick a folder", on(system, start))
+        try:
+            _, _, width, height = window.place()
+            window.move(width // 2, height - 20)
+            window.press()
+            window.release()
+            code = window.ended()
+            printed = window.output().strip().rstrip("\\/")
+            good = code == 0 and printed.endswith(on(system, start))
+            tally.check(f"{system.name} pick", None if good else f"exit code {code}: {printed}")
+        finally:
+            window.kill()
 
 
 def wheel(tree, place, _):
@@ -92,10 +120,12 @@ def boxes(tree, place, _):
 
 
 def choice(tree, place, _):
-    mark = tree.window.mark()
+    mark, listed = tree.window.mark(), tree.console()
     tree.click(place[0] + ROW + 8, place[1] - 2 * ROW + 5)
     tree.is_at("a click on a folder's picture chooses it", (place[0] + ROW, place[1] - 2 * ROW))
     tree.session.writes("the title names it", "Folder: beta", mark)
+    changed = wait_for(lambda: tree.console() != listed, 5)
+    tree.session.check("the console lists it", None if changed else "it shows the same as before")
     tree.click(place[0] + 7 * ROW + 8, place[1] - 3 * ROW + 5)
     tree.click(place[0] + 6 * ROW + 8, place[1] - 4 * ROW + 5)
     tree.is_at("six cells choose, the seventh does not", (place[0] + ROW, place[1] - 4 * ROW))

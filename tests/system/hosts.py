@@ -50,6 +50,8 @@ def same_pictures(tally, windows, native):
     ours, theirs = snapshot(native, *words), snapshot(windows, *words)
     tally.check("same pages", None if sorted(ours) == sorted(theirs) and len(ours) > 2 else "they have other names")
     for page, here in ours.items():
+        if page == "files.png":  # shows the machine's own drives, which are others under Wine
+            continue
         place = next(differences(here, theirs[page]), None)
         tally.check(f"same picture of {page} in the built-in font", place and f"first difference at {place}",
                     native=here, wine=theirs[page])

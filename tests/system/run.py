@@ -7,6 +7,7 @@ import sys
 
 import console
 import documents
+import files
 import hosts
 import items
 import pages
@@ -71,7 +72,8 @@ def main(native_folder, windows_folder):
             systems.append(windows)
         for system in systems:
             tally.scene(hosts.options, system)
-            for scene in (pages.basics, values.values, items.items, typing_keys.typing, console.console, pages.sizes, hosts.hello):
+            for scene in (pages.basics, values.values, items.items, typing_keys.typing, console.console, files.files,
+                          files.pick, pages.sizes, hosts.hello):
                 tally.scene(scene, system, display)
         if windows:
             tally.scene(hosts.same_pictures, windows, systems[0])
