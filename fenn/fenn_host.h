@@ -20,9 +20,9 @@ FENN_API const DWORD* Fenn_Pixels(HWND wnd, int* width, int* height);
 typedef void (*Fenn_Report)(void* user, HWND wnd, unsigned int code, const wchar_t* text);
 // Installs the one receiver; null gives the standard error stream back, one line of UTF-8 for each report.
 FENN_API void Fenn_Set_Report(Fenn_Report report, void* user);
-// Turns one code on or off. At the start everything but the traces is on: codes 0x90000029, 0x90000027
-// and 0x90004009 are off. At most 64 codes can be off at a time. A report nobody listens to costs a few
-// nanoseconds.
+// Turns one code on or off. At the start everything but the traces is on: codes 0x90000029, 0x90000027,
+// 0x90004009 and 0x80000005 are off. At most 64 codes can be off at a time. A report nobody listens to costs
+// a few nanoseconds.
 FENN_API void Fenn_Listen(unsigned int code, int on);
 
 // --- Text ---

@@ -21,12 +21,14 @@ namespace {
 constexpr unsigned int control_trace = 0x90000029;
 constexpr unsigned int keyboard_trace = 0x90000027;
 constexpr unsigned int font_cache_trace = 0x90004009;
+constexpr unsigned int icon_trace = 0x80000005;
 
 // The codes that nobody listens to, the most frequent one first: it is asked for at the entry and the exit of
 // every operation of every control.
 constexpr int most_silent = 64;
-std::atomic<unsigned int> silent[most_silent] = {{control_trace}, {keyboard_trace}, {font_cache_trace}};
-std::atomic<int> silent_count{3};
+std::atomic<unsigned int> silent[most_silent] = {
+    {control_trace}, {keyboard_trace}, {font_cache_trace}, {icon_trace}};
+std::atomic<int> silent_count{4};
 
 std::mutex receiver_lock; // guards the pair below and changes of the silent codes
 Fenn_Report receiver = nullptr;

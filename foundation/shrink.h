@@ -18,8 +18,9 @@ struct Pixels {
 };
 
 // Fills `to`, whose size says into how many pixels `from` goes. Each is the mean of the source pixels that it
-// covers, by their area in it; scale_x by scale_y of them. A uniform picture stays uniform.
-void shrink(const Pixels& from, float scale_x, float scale_y, const Pixels& to);
+// covers, by their area in it; scale_x by scale_y of them. A uniform picture stays uniform. False when memory
+// fails.
+bool shrink(const Pixels& from, float scale_x, float scale_y, const Pixels& to);
 
 } // namespace brask
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 #include <brask/fenn.h>
@@ -26,15 +27,17 @@ struct Picture {
     Pixels pixels = {};
 };
 
-bool allocate(Picture& picture, int width, int height, int channels, const char* service, int line) {
+bool allocate(Picture& picture, int width, int height, int channels) {
     picture.pixels = {nullptr, width, height, channels};
-    picture.memory.reset(
-        static_cast<unsigned char*>(std::malloc(std::max<std::size_t>(picture.pixels.size(), 1))));
+    const std::size_t size = std::max<std::size_t>(picture.pixels.size(), 1);
+    picture.memory.reset(static_cast<unsigned char*>(std::malloc(size)));
     picture.pixels.bytes = picture.memory.get();
-    if (picture.memory) return true;
+    return picture.memory != nullptr;
+}
+
+void tell_no_memory(const char* service, int width, int height, int line) {
     Error_Fct(hwnd, REPORT_MEMORY, "line %-4d of %hs \nmemory error in %hs (var=%hs, dim=%dx%d)", line,
               "tools", service, "local_data", width, height);
-    return false;
 }
 
 // --- Reading ----------------------------------------------------------------------------------------------
@@ -52,7 +55,10 @@ bool read(const wchar_t* folder, const wchar_t* name, Picture& picture, Trace& t
     if (!usable(file)) return trace.out(tga ? "! TGA_Read_Image" : "! IGB_Read_Image", false);
     const IGB_data& data = file.data();
     const int width = std::max<int>(data.Dim_X, 0), height = std::max<int>(data.Dim_Y, 0);
-    if (!allocate(picture, width, height, data.Channels, "malloc", __LINE__)) return false;
+    if (!allocate(picture, width, height, data.Channels)) {
+        tell_no_memory("malloc", width, height, __LINE__);
+        return false;
+    }
     std::copy_n(data.Data, picture.pixels.size(), picture.pixels.bytes);
     return true;
 }
@@ -87,8 +93,12 @@ Fit fit(Picture& picture, DWORD flag, const Size& room) {
     const int height = cut(1.0f / scale_y * static_cast<float>(from.height));
     if (width < 1 || height < 1) return Fit::NOTHING;
     Picture smaller;
-    if (!allocate(smaller, width, height, from.channels, "calloc", __LINE__)) return Fit::FAILED;
-    shrink(from, scale_x, scale_y, smaller.pixels);
+    const bool done =
+        allocate(smaller, width, height, from.channels) && shrink(from, scale_x, scale_y, smaller.pixels);
+    if (!done) {
+        tell_no_memory("calloc", width, height, __LINE__);
+        return Fit::FAILED;
+    }
     picture = std::move(smaller);
     return Fit::FITS;
 }

@@ -39,3 +39,7 @@ for page, names in PANELS.items():
         part(page, panel.x, panel.down(panel.y + panel.height), panel.width + 1, panel.height + 1,
              name.lower().replace(" ", "-"))
 part("values", 0, 0, size.width, 60, "tabs")
+# Icons and glyphs are shown as they are proven.
+golden = os.path.join(here, "../../tests/golden/pictures")
+for scene, name in (("folders", "folders"), ("leads", "leads"), ("symbols", "symbols"), ("tree_files", "files"), ("faces", "faces")):
+    read_png(os.path.join(golden, f"icon_{scene}.png")).save(os.path.join(here, f"icon-{name}.png"))
