@@ -1,6 +1,6 @@
 #include <climits>
 
-#include "laws/chance.h"
+#include "item_laws.h"
 #include "spinner_fixture.h"
 
 // Random operations on random fields, held against a small model of the protocol. LAWS_SEED repeats a run,
@@ -18,12 +18,8 @@ struct Model {
     std::string tag = {};
 };
 
-bool out_of_view(const Selects& s) { return (s.Flag & (OUTIL_INVISIBLE | OUTIL_EMPTY | GRAPH_OUTLINE)) != 0; }
 // By the flags that the frame has since Init, a repaint covers the control.
-bool fills(const Selects& s) { return !out_of_view(s) && !(s.Box.Flag & OUTIL_EMPTY); }
-bool hits(const Selects& s, POINT at) {
-    return at.x >= s.Region.left && at.x < s.Region.right && at.y >= s.Region.top && at.y < s.Region.bottom;
-}
+bool fills(const Selects& s) { return !faceless(s) && !(s.Box.Flag & OUTIL_EMPTY); }
 bool in_range(const Selects& s, int value) { return value >= 0 && value < s.NbItem; }
 bool skipped(const Selects& s, int value) { return (s.Item[value]->Flag & OUTIL_INVISIBLE) != 0; }
 
@@ -57,7 +53,7 @@ Model after_select(const Selects& s, Model m, int mode, POINT pointer) {
     if (s.Flag & (OUTIL_DISABLE | GRAPH_OUTLINE)) return m.answer = 0, m.tag = "OUTIL_DISABLE:0", m;
     if (in && event == 2)
         if (const int by = arrow_step(s, pointer)) m.value = stepped(s, m.value, by);
-    if (out_of_view(s)) return m.tag = "OUTIL_EMPTY|OUTIL_INVISIBLE|OUTIL_OUTLINE", m;
+    if (faceless(s)) return m.tag = "OUTIL_EMPTY|OUTIL_INVISIBLE|OUTIL_OUTLINE", m;
     const int next = in ? 1 : 2;
     if (m.select == next) return m.tag = in ? "select == 1" : "select == 2", m;
     m.select = next;
@@ -85,7 +81,7 @@ Model after_adjust(const Selects& s, Model m) {
     if (s.Flag & OUTIL_DISABLE) return m.tag = "OUTIL_DISABLE", m;
     m.old = m.value;
     if (s.Flag & OUTIL_INVISIBLE) return m.tag = "OUTIL_INVISIBLE", m;
-    m.may_paint = !out_of_view(s), m.must_paint = fills(s);
+    m.may_paint = !faceless(s), m.must_paint = fills(s);
     return m;
 }
 
@@ -93,7 +89,7 @@ Model after_deselect(const Selects& s, Model m) {
     m.test = s.test;
     if (!s.test) return m.tag = "! this->test", m;
     if (s.Dim_X < 1 || s.Dim_Y < 1) return m.tag = "< 0", m;
-    if (out_of_view(s)) return m.tag = "OUTIL_EMPTY|OUTIL_INVISIBLE|OUTIL_OUTLINE", m;
+    if (faceless(s)) return m.tag = "OUTIL_EMPTY|OUTIL_INVISIBLE|OUTIL_OUTLINE", m;
     m.may_paint = m.select != 0 && m.select != 2;
     m.must_paint = m.may_paint && fills(s);
     m.select = 0;
@@ -132,7 +128,7 @@ Model expected_of(const Selects& s, Act act, int mode, POINT pointer) {
         if (gone || s.Flag & OUTIL_DISABLE) return m;
         if (!s.NbItem) return m.answer = 0, m;
         m.answer = m.value = stepped(s, m.value, -static_cast<long long>(mode));
-        m.may_paint = !out_of_view(s), m.must_paint = fills(s);
+        m.may_paint = !faceless(s), m.must_paint = fills(s);
         return m;
     default: // Grow
         m.test = s.test;
@@ -155,12 +151,6 @@ int perform(Selects& s, Act act, int mode) {
     case Act::Scroll: return s.Scroll(mode);
     default: return s.Grow(mode & 7, 0);
     }
-}
-
-bool painted_something() {
-    for (const recorder::Line& line : recorder::log())
-        if (line.kind == recorder::kDraw && line.text.rfind("draw", 0) == 0) return true;
-    return false;
 }
 
 struct Spinner_Laws : Recorded {
