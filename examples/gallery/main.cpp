@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int exit_usage = 2;
-constexpr unsigned int icon_read = 0x80000005; // report that a picture is read
+
 int complain(const std::string& text, int code) {
     std::fprintf(stderr, "gallery: %s\n", text.c_str());
     return code;
@@ -93,7 +93,6 @@ int main(int argc, char** argv) {
         return complain("there is no page \"" + options.page + "\"; the pages are:" + names, exit_usage);
     }
     if (options.trace) traces_print(true);
-    Fenn_Listen(icon_read, options.trace);
     Fenn_Builtin_Font(options.builtin);
     files_start(options.folder);
     if (options.layout) return layouts(options);

@@ -111,7 +111,6 @@ int main(int argc, char** argv) {
     kind.lpszClassName = L"pick";
     RegisterClassExW(&kind);
 
-    Fenn_Listen(0x80000005, 0); // that an icon is read
     start(argc > 1 ? argv[1] : nullptr);
     HWND wnd = CreateWindowExW(0, kind.lpszClassName, L"Pick a folder", WS_OVERLAPPEDWINDOW, CW_USEDEFAULT,
                                CW_USEDEFAULT, 420, 560, nullptr, nullptr, kind.hInstance, nullptr);
