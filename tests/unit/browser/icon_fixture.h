@@ -60,7 +60,8 @@ struct Icons : Recorded {
              std::vector<unsigned char> pixel = {1, 2, 3, 4}) {
         recorder::File file = {width, height, static_cast<int>(pixel.size()), {}};
         for (int i = 0; i < width * height; i++)
-            file.bytes.insert(file.bytes.end(), pixel.begin(), pixel.end());
+            for (const unsigned char byte : pixel)
+                file.bytes.push_back(byte);
         recorder::file(path_of(name), file);
     }
     // A file of these bytes.

@@ -18,7 +18,8 @@ struct Icon_Tga : Icons {
     }
     void tga(const std::wstring& name, int width, int height, const Bytes& pixels, int depth = 24) {
         Bytes file = header(width, height, depth);
-        file.insert(file.end(), pixels.begin(), pixels.end());
+        for (const unsigned char byte : pixels)
+            file.push_back(byte);
         write(name, file);
     }
     std::vector<std::string> warnings_of(const std::wstring& name) {
