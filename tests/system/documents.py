@@ -1,5 +1,7 @@
 """What can be proven of the written pages: their links lead somewhere, and the code that they show is the real one."""
 
+import fnmatch
+import glob
 import os
 import re
 import subprocess
@@ -14,7 +16,22 @@ def pages(tally):
     with open("README.md", encoding="utf-8") as readme, open("examples/hello/main.cpp", encoding="utf-8") as host:
         shown = f"```cpp\n{host.read()}```\n" in readme.read()
     tally.check("README shows the small host", None if shown else "its code is another one")
+    tally.check("each test that the table of proofs names is there", missing_test("docs/conformance.md"))
     tally.check("the picture is small", None if os.path.getsize("docs/pictures/basics.png") < 150_000 else "it is not")
+
+
+def missing_test(page):
+    """The tests that a page names as `Suite.Name` or `Suite.*`, and that no program has."""
+    macro = re.compile(r"\b(?:TYPED_TEST|TEST|TEST_F|TEST_P)\(\s*(\w+),\s*(\w+)\s*\)")
+    names = set()
+    for path in glob.glob("tests/**/*.cpp", recursive=True):
+        with open(path, encoding="utf-8") as file:
+            names.update(".".join(match) for match in macro.findall(file.read()))
+    with open(page, encoding="utf-8") as file:
+        told = re.findall(r"^\|.*$", file.read(), re.M)
+    wanted = re.findall(r"`([A-Z]\w*\.(?:\w+|\*))`", "\n".join(told))
+    missing = [name for name in wanted if not fnmatch.filter(names, name)]
+    return ", ".join(missing) or None
 
 
 def dead_link(page):
