@@ -17,6 +17,15 @@ struct Console : Recorded {
         console.Pos_X = 100, console.Pos_Y = 200;
         console.Dim_X = 300, console.Dim_Y = 200;
         console.Font_Size = 9; // a default font has no handle of its own
+        forget_measures();
+        recorder::clear();
+    }
+
+    // All consoles keep the last font's measures, which another test may have chosen.
+    static void forget_measures() {
+        Texts other;
+        other.Dim_X = other.Dim_Y = 1, other.Font_Size = 8;
+        other.Init(recorder::window());
     }
 
     void init(DWORD flag = 0) {
