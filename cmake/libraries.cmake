@@ -20,7 +20,7 @@ set_source_files_properties(${brask_compound} PROPERTIES COMPILE_OPTIONS $<$<CON
 set_source_files_properties(${PROJECT_SOURCE_DIR}/foundation/shrink.cpp PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O3>)
 target_compile_definitions(brask PUBLIC BRASK_STATIC FENN_STATIC)
 target_include_directories(brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
-                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console ${HOUSE_FLOORS}/browser)
+                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console ${HOUSE_FLOORS}/browser ${HOUSE_FLOORS}/popup)
 
 add_library(fenn STATIC ${fenn_sources})
 target_link_libraries(fenn PUBLIC brask_headers platform raster text PRIVATE fenn_system)
@@ -34,7 +34,7 @@ set_source_files_properties(${fenn_seldom} PROPERTIES COMPILE_OPTIONS $<$<CONFIG
 if(WIN32)
   add_library(Lib_Brask SHARED ${brask_sources} $<TARGET_OBJECTS:text>)
   target_include_directories(Lib_Brask PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/foundation ${HOUSE_FLOORS}/controls ${HOUSE_FLOORS}/items
-                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console ${HOUSE_FLOORS}/browser)
+                           ${HOUSE_FLOORS}/color ${HOUSE_FLOORS}/console ${HOUSE_FLOORS}/browser ${HOUSE_FLOORS}/popup)
   target_link_libraries(Lib_Brask PUBLIC brask_headers platform_names)
   add_library(Lib_Fenn SHARED ${fenn_sources} $<TARGET_OBJECTS:text> $<TARGET_OBJECTS:raster>)
   target_include_directories(Lib_Fenn PRIVATE ${HOUSE_FLOORS}/text ${HOUSE_FLOORS}/raster ${HOUSE_FLOORS}/fenn)
@@ -45,6 +45,11 @@ else()
   add_library(Lib_Fenn SHARED $<TARGET_OBJECTS:fenn> $<TARGET_OBJECTS:text> $<TARGET_OBJECTS:raster>
                               $<TARGET_OBJECTS:platform>)
   target_link_libraries(Lib_Fenn PUBLIC brask_headers PRIVATE fenn_system platform_system)
+endif()
+# Templates of the standard library are compiled into it; they are no names of its own.
+if(NOT WIN32)
+  target_link_options(Lib_Brask PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map)
+  set_target_properties(Lib_Brask PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
 endif()
 target_compile_definitions(Lib_Brask PRIVATE BRASK_BUILD)
 target_compile_definitions(Lib_Fenn PRIVATE FENN_BUILD)

@@ -13,11 +13,15 @@ void warn_first_use(Tools& control, const char* type) {
     control.test = TEST_WARNED;
 }
 
+void warn(const char* what, const char* type, const wchar_t* name) {
+    Error_Fct(hwnd, REPORT_WARNING, "Tools: WARNING ! ");
+    Error_Fct(hwnd, REPORT_WARNING, what);
+    Error_Fct(hwnd, REPORT_WARNING, "   type: %hs   name: %ls", type, name);
+}
+
 bool missing_window(const Tools& control, const char* type) {
     if (control.Wnd) return false;
-    Error_Fct(hwnd, REPORT_WARNING, "Tools: WARNING ! ");
-    Error_Fct(hwnd, REPORT_WARNING, "   you must provide a window");
-    Error_Fct(hwnd, REPORT_WARNING, "   type: %hs   name: %ls", type, report_name(control));
+    warn("   you must provide a window", type, report_name(control));
     return true;
 }
 

@@ -21,6 +21,9 @@ inline void check_first_use(Tools& control, const char* type) {
 // A control of such a size is not there.
 inline bool too_small(const Tools& control) { return control.Dim_X < 1 || control.Dim_Y < 1; }
 
+// The three lines of a warning; `what` is the middle one.
+void warn(const char* what, const char* type, const wchar_t* name);
+
 // Warns, at every Init, of a control that has no window to paint in.
 bool missing_window(const Tools& control, const char* type);
 

@@ -28,6 +28,8 @@ void desktop_set_position(Window& window);
 void desktop_set_topmost(Window& window, bool topmost);
 void desktop_raise(Window& window);
 void desktop_set_capture(bool capture);
+// Whether a mouse button is held down now, as far as windows of ours have heard and the desktop agrees.
+bool desktop_button_held();
 // An index into the standard cursors (see cursor.h); -1: hidden.
 void desktop_set_cursor(int index);
 

@@ -102,7 +102,8 @@ static LRESULT default_answer(HWND wnd, UINT message, WPARAM wparam, LPARAM lpar
 static LRESULT CALLBACK window_procedure(HWND wnd, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_NCDESTROY) wake_loops();
     const auto procedure = reinterpret_cast<DLGPROC>(GetWindowLongPtrW(wnd, DWLP_DLGPROC));
-    if (!procedure) return default_answer(wnd, message, wparam, lparam);
+    const Dialog* dialog = find_dialog(wnd);
+    if (!procedure || (dialog && dialog->ended)) return default_answer(wnd, message, wparam, lparam);
     SetWindowLongPtrW(wnd, DWLP_MSGRESULT, 0);
     const INT_PTR answer = procedure(wnd, message, wparam, lparam);
     if (!answer) return default_answer(wnd, message, wparam, lparam);
@@ -167,6 +168,23 @@ static void run(const Dialog& dialog) {
     }
 }
 
+// A press that ends the dialog belongs to its window until the release: a desktop whose window vanishes under
+// the button never hears of that, and takes the next press for the same one. Everything goes on meanwhile.
+static void await_release(const Dialog& dialog) {
+    constexpr int kPatience = 5; // milliseconds
+    MSG msg;
+    while (find_window(dialog.wnd) && desktop_button_held()) {
+        if (!PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+            desktop_wait(kPatience);
+        } else if (msg.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(msg.wParam));
+            return;
+        } else {
+            DispatchMessageW(&msg);
+        }
+    }
+}
+
 static void give_owner_back(const Dialog& dialog) {
     if (dialog.owner_was_enabled) EnableWindow(dialog.owner, TRUE);
 }
@@ -193,6 +211,7 @@ INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATEA memory, HWND
     begin(dialog, parameter);
     run(dialog);
     give_owner_back(dialog); // before the end of its window, so that activation may pass on to it
+    await_release(dialog);
     DestroyWindow(dialog.wnd);
     dialogs().pop_back();
     return dialog.ended ? dialog.result : -1;
@@ -204,7 +223,7 @@ BOOL EndDialog(HWND wnd, INT_PTR result) {
     dialog->ended = true;
     dialog->result = result;
     give_owner_back(*dialog);
-    ShowWindow(wnd, SW_HIDE);
+    if (!desktop_button_held()) ShowWindow(wnd, SW_HIDE);
     wake_loops();
     return TRUE;
 }

@@ -18,6 +18,8 @@
 
 namespace platform {
 
+static_assert(sizeof(std::recursive_mutex) <= sizeof CRITICAL_SECTION::room);
+
 static std::recursive_mutex* lock_of(CRITICAL_SECTION* section) {
     return section ? static_cast<std::recursive_mutex*>(section->state) : nullptr;
 }
@@ -87,7 +89,7 @@ using namespace platform;
 extern "C" {
 
 void InitializeCriticalSection(CRITICAL_SECTION* section) {
-    if (section) section->state = new (std::nothrow) std::recursive_mutex;
+    if (section) section->state = new (section->room) std::recursive_mutex;
 }
 
 void EnterCriticalSection(CRITICAL_SECTION* section) {
@@ -104,7 +106,7 @@ void LeaveCriticalSection(CRITICAL_SECTION* section) {
 }
 
 void DeleteCriticalSection(CRITICAL_SECTION* section) {
-    delete lock_of(section);
+    if (auto* lock = lock_of(section)) lock->~recursive_mutex();
     if (section) section->state = nullptr;
 }
 

@@ -1,6 +1,7 @@
 #include <brask/platform.h>
 
 #include "desk.h"
+#include "desk_dialog.h"
 #include "desk_function.h"
 #include "recorder.h"
 
@@ -43,6 +44,7 @@ DESK_FUNCTION(HANDLE, GetClipboardData, UINT format) {
 
 DESK_FUNCTION(LPVOID, GlobalLock, HGLOBAL block) {
     note("GlobalLock(" + recorder::named(block) + ")");
+    if (block != &desk::block) return desk::lock_block(block);
     return desk::clipboard().locks ? desk::clipboard().units.data() : nullptr;
 }
 

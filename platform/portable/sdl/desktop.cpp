@@ -145,6 +145,11 @@ void desktop_set_capture(bool capture) {
     if (const SdlLibrary* sdl = sdl_opened()) sdl->SDL_CaptureMouse(capture ? SDL_TRUE : SDL_FALSE);
 }
 
+bool desktop_button_held() {
+    const SdlLibrary* sdl = sdl_opened();
+    return sdl && sdl->SDL_GetMouseState(nullptr, nullptr) && sdl->SDL_GetGlobalMouseState(nullptr, nullptr);
+}
+
 void desktop_set_cursor(int index) {
     // In the order of Shape; the desktop has no arrow upward.
     static const SDL_SystemCursor kCursors[kShapes] = {

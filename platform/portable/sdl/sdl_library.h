@@ -17,6 +17,8 @@ namespace platform {
     X(SDL_GetDisplayUsableBounds)                                                                            \
     X(SDL_GetError)                                                                                          \
     X(SDL_GetNumVideoDisplays)                                                                               \
+    X(SDL_GetGlobalMouseState)                                                                               \
+    X(SDL_GetMouseState)                                                                                     \
     X(SDL_GetTicks)                                                                                          \
     X(SDL_GetWindowFromID)                                                                                   \
     X(SDL_GetWindowData)                                                                                     \
