@@ -78,6 +78,7 @@ void CommandLine::layout(HWND wnd, const Area& area) {
     area.give(console);
     console.Init(wnd);
     if (!first) return;
+    colors(L"");
     say(BOLD L"Good day." REGULAR L" Type a command and press Enter.");
     help(L"");
     console.Read(nullptr);
@@ -90,7 +91,7 @@ void CommandLine::draw() {
 
 void CommandLine::pointer(int word) {
     TracesHush hush;
-    if (console.Select(word) && word == 2 + 16 && !on_slider()) pick();
+    if (console.Select(word) && (word & 15) == 2 && !on_slider()) pick();
 }
 
 bool CommandLine::on_slider() {

@@ -20,7 +20,7 @@ class CommandLine {
     void key(int key);
     void note(const std::wstring& line); // writes a line of somebody else
     void show_traces();                  // those that were collected
-    void each(const Visitor& visit) const { visit("console", console); }
+    void each(const Visitor& visit) const { visit("command-line", console); }
 
   private:
     struct Command {

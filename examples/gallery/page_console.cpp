@@ -17,13 +17,14 @@ struct FieldSample {
     const char* kind; // in the list of controls, with what the field gave
     const char* value_kind;
     DWORD filter;
+    const wchar_t* text; // at the start
 };
 const FieldSample samples[] = {
-    {L"Any text", "entry-text", "value-text", 0},
-    {L"Password", "entry-password", "value-password", TEXTS_PASSWORD},
-    {L"Integer", "entry-integer", "value-integer", TEXTS_INTEGER},
-    {L"Float", "entry-float", "value-float", TEXTS_FLOAT},
-    {L"Hexadecimal", "entry-hex", "value-hex", TEXTS_HEX},
+    {L"Any text", "entry-text", "value-text", 0, L"any text"},
+    {L"Password", "entry-password", "value-password", TEXTS_PASSWORD, L"secret"},
+    {L"Integer", "entry-integer", "value-integer", TEXTS_INTEGER, L"-42"},
+    {L"Float", "entry-float", "value-float", TEXTS_FLOAT, L"6.02e23"},
+    {L"Hexadecimal", "entry-hex", "value-hex", TEXTS_HEX, L"C0FFEE"},
 };
 constexpr int field_count = int(std::size(samples));
 
@@ -37,6 +38,7 @@ class FieldSection {
             field[i].Flag = TEXTS_FIELD | TEXTS_REPORT_KEYS | samples[i].filter;
             value[i].Flag = OUTIL_DISABLE | OUTIL_FLAT | TEXT_LEFT | TEXT_MIDDLE;
             value[i].Color.set(235, 235, 225, 0);
+            value[i].Name_Set(L"%ls", samples[i].text);
         }
     }
     void layout(HWND wnd, const Area& area) {
@@ -44,14 +46,14 @@ class FieldSection {
         for (int i = 0; i < field_count; i++) {
             Area row = inner.cell(0, 1, i, field_count);
             row.cut_top(24).give(caption[i]);
-            row.cut_top(28).give(field[i]);
+            row.cut_top(24).give(field[i]); // a line of the usual font, and its frame
             row.cut_top(SPACE / 2);
             row.cut_top(26).give(value[i]);
             caption[i].Init(wnd);
             value[i].Init(wnd);
             bool first = !field[i].Wnd;
             field[i].Init(wnd);
-            if (first) field[i].Read(nullptr);
+            if (first) field[i].Read(L"%ls", samples[i].text);
         }
     }
     void draw() {

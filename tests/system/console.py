@@ -18,7 +18,7 @@ def console(tally, system, display):
     session = Session(tally, system, display, "--builtin-font")
     try:
         tab(session, "Console")
-        session.go(("console", ""))
+        session.go(("command-line", ""))
         session.window.focus()
         for scene in (commands, history, picked, pasted, scrolled, asked, traced):
             scene(session)
@@ -30,14 +30,14 @@ def console(tally, system, display):
 
 def strip(session):
     """The editor's line, left of the pointer's column."""
-    control = session.controls["console", ""]
+    control = session.controls["command-line", ""]
     top = control.down(control.y + LINE + 4 * BORDER)
     return session.window.picture().crop(control.x, top, control.width, LINE + 4 * BORDER)
 
 
 def log(session):
     """The log and its slider, without the editor's line."""
-    control = session.controls["console", ""]
+    control = session.controls["command-line", ""]
     return session.window.picture().crop(control.x, control.down(control.y + control.height), control.width,
                                          control.height - 60)
 
@@ -108,7 +108,7 @@ def history(session):
 def picked(session):
     """A click on the command that stands in the log, above what it wrote, puts it into the editor without its prompt."""
     before = settled(lambda: strip(session))
-    control = session.controls["console", ""]
+    control = session.controls["command-line", ""]
     foot = control.y + BORDER + CURSEUR + GAP + LINE + 3 * BORDER  # of the newest line
     session.window.move(control.x + 400, control.down(foot + LINE + LINE // 2))
     session.press()
@@ -172,18 +172,20 @@ def traced(session):
     before = settled(lambda: log(session))
     session.go(("entry-hex", ""))
     other(session, "log while tracing", lambda: log(session), before)
-    session.go(("console", ""))
+    session.go(("command-line", ""))
     settled(lambda: log(session))
     enter(session, "trace off")
     session.go(("entry-integer", ""))
     before = settled(lambda: log(session))
     session.go(("entry-float", ""))
+    session.window.key("Home")
     session.looks("field under the pointer", ("entry-float", ""), caret)
     same(session, "log after tracing", lambda: log(session), before)
 
 
 def caret(control):
-    """An empty field under the pointer shows a yellow caret, two columns wide."""
-    y = control.down(control.y + control.height // 2)
+    """A field under the pointer shows a yellow caret, two columns wide; here before the first letter, which reaches
+    less far down."""
+    y = control.down(control.y + BORDER + 2)
     yield (control.x + 3 + BORDER, y), (255, 255, 0)
     yield (control.x + 4 + BORDER, y), (255, 255, 0)

@@ -92,3 +92,22 @@ def hello(tally, system, display):
         shows("up again", button())
     finally:
         window.kill()
+
+
+def log(tally, system, display):
+    """The log window: it goes on by itself, takes a command, and ends by one."""
+    window = Window(display, system, "log", "Log")
+    try:
+        before = window.picture()
+        grown = wait_for(lambda: window.picture().rows != before.rows)
+        tally.check(f"{system.name} log goes on", None if grown else "nothing is written", window=window.picture())
+        display.xdotool("type", "--delay", "15", "nonsense")
+        window.key("Return")
+        red = lambda: any(b"\xff\0\0" in row for row in window.picture().rows)
+        tally.check(f"{system.name} log refuses a command", None if wait_for(red) else "nothing is red",
+                    window=window.picture())
+        display.xdotool("type", "--delay", "15", "quit")
+        window.key("Return")
+        tally.check(f"{system.name} log ends", None if window.ended() == 0 else "no end, or not with 0")
+    finally:
+        window.kill()

@@ -29,6 +29,7 @@ def typing(tally, system, display):
         tab(session, "Console")
         session.go(("entry-text", ""))
         session.window.focus()
+        empty(session)
         for scene in (characters, with_ctrl, with_alt, groups, pad, editing):
             scene(session)
         session.window.key("Escape")
