@@ -66,7 +66,7 @@ struct Wild_Tree : Tree {
 
 TEST_F(Wild_Tree, AnyFieldsAndAnyOrderAreSurvived) {
     recorder::listen(0);
-    for (int i = 0; i < law_rounds(2000); i++) {
+    for (int i = 0; i < law_rounds(1000); i++) {
         step();
         ASSERT_EQ(recorder::open_lists(), 0) << "step " << i;
         if (tree.Current) {
