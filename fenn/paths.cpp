@@ -19,17 +19,21 @@ bool is_separator(wchar_t c) { return c == L'\\' || c == L'/'; }
 bool is_letter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
 bool has_drive(const wchar_t* path) { return is_letter(path[0]) && path[1] == L':'; }
 
-// The part of an absolute path that ".." cannot leave: "C:", or "\\server\share".
+std::size_t part_end(const std::wstring& path, std::size_t at) {
+    while (at < path.size() && !is_separator(path[at]))
+        ++at;
+    return at;
+}
+
+// The part of an absolute path that ".." cannot leave: "C:", or "\\server\share", without a separator at its
+// end.
 std::size_t root_length(const std::wstring& path) {
     if (has_drive(path.c_str())) return 2;
     if (!is_separator(path[0]) || !is_separator(path[1])) return 0;
-    std::size_t at = 2;
-    for (int part = 0; part < 2 && at < path.size(); ++part) {
-        if (part > 0) ++at;
-        while (at < path.size() && !is_separator(path[at]))
-            ++at;
-    }
-    return at;
+    const std::size_t server = part_end(path, 2);
+    if (server == 2) return 0; // nothing but separators
+    const std::size_t share = part_end(path, std::min(server + 1, path.size()));
+    return share > server + 1 ? share : server;
 }
 
 // Puts the current folder, or its root alone, in front of a path that does not begin at a root.
@@ -48,9 +52,7 @@ std::wstring resolve(const std::wstring& path) {
     std::wstring result = path.substr(0, root);
     std::replace(result.begin(), result.end(), L'/', L'\\');
     for (std::size_t at = root; at < path.size();) {
-        std::size_t end = at;
-        while (end < path.size() && !is_separator(path[end]))
-            ++end;
+        const std::size_t end = part_end(path, at);
         const std::wstring part = path.substr(at, end - at);
         at = end + 1;
         if (part == L"..")

@@ -13,6 +13,10 @@ constexpr char32_t kBackslash = 0xF05C; // in a name
 static bool is_letter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
 static bool has_drive(const wchar_t* path) { return is_letter(path[0]) && path[1] == L':'; }
 
+static bool is_share(const wchar_t* path) {
+    return is_separator(path[0]) && is_separator(path[1]) && path[2] && !is_separator(path[2]);
+}
+
 static void append_bytes(std::wstring& wide, const char* from, const char* end) {
     for (; from < end; from++)
         wide += static_cast<wchar_t>(kEscape + static_cast<unsigned char>(*from));
@@ -58,7 +62,7 @@ static bool fail(int reason) {
 bool to_native(const wchar_t* path, std::string& native) {
     native.clear();
     if (!path) return fail(EINVAL);
-    if (is_separator(path[0]) && is_separator(path[1])) return fail(ENOENT);
+    if (is_share(path)) return fail(ENOENT);
     if (has_drive(path)) {
         if (!drive_point(path[0], native)) return fail(ENOENT);
         path += 2;

@@ -47,6 +47,10 @@ TEST(Paths, AbsoluteOnesAreTidiedAndEndInASeparator) {
 TEST(Paths, SharesKeepTheirRoot) {
     EXPECT_EQ(absolute(L"\\\\server\\share\\a\\..\\..\\..\\b"), L"\\\\server\\share\\b\\");
     EXPECT_EQ(absolute(L"//server/share"), L"\\\\server\\share\\");
+    EXPECT_EQ(absolute(L"\\\\server"), L"\\\\server\\");
+    EXPECT_EQ(absolute(L"\\\\server\\"), L"\\\\server\\");
+    EXPECT_EQ(absolute(L"\\\\server\\..\\a"), L"\\\\server\\..\\a\\"); // no more than a name there
+    EXPECT_EQ(absolute(L"///a"), absolute(L"\\a"));
 }
 
 TEST(Paths, RelativeOnesStartInTheCurrentFolderWhichIsPutInLowerCase) {
