@@ -1,11 +1,11 @@
 // What only the file systems off Windows have: names that are no text, links, and rights that a test can take
 // away.
 
+#include "nobody.h"
 #include "scratch.h"
 
 #include <cerrno>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -32,20 +32,6 @@ void make_native(const Scratch& scratch, const std::string& name) {
     ASSERT_EQ(mkdir(path.c_str(), 0777), 0) << name;
     ASSERT_EQ(mkdir((path + "/below").c_str(), 0777), 0) << name;
 }
-
-// Rights mean nothing to the root user, so these tests act as nobody then.
-class AsNobody {
-  public:
-    AsNobody() { become(65534); }
-    ~AsNobody() { become(0); }
-
-  private:
-    void become(uid_t user) {
-        if (!root_) return;
-        EXPECT_EQ(seteuid(user), 0);
-    }
-    const bool root_ = geteuid() == 0;
-};
 
 TEST(FolderNames, AreTakenAsTheyAreAndLeadBack) {
     const Scratch scratch;
