@@ -2,15 +2,16 @@
 
 #include <brask/fenn.h>
 
+#include "foundation/button_mask.h"
 #include "foundation/trace.h"
 
 using namespace brask;
 
 // --- The recorded button mask -----------------------------------------------------------------------------
 
-namespace {
+int brask::Button_Mask = 0;
 
-int Button_Mask = 0; // for the host: the library only writes it
+namespace {
 
 // The mask's bits are those of the virtual keys, and so middle and right change places.
 int bit_of(int button) {

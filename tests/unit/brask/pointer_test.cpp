@@ -1,7 +1,9 @@
 #include <climits>
+#include <utility>
 
 #include <brask/pointer.h>
 
+#include "foundation/button_mask.h"
 #include "support/recorded.h"
 
 // Buttons, modifier keys and the shape of the pointer.
@@ -210,15 +212,30 @@ TEST_F(Pointer, ToggleBitDoesNotCount) {
     EXPECT_NE(getkey(VK_SHIFT), 0);
 }
 
-// The mask is written only: nothing to read, but nothing to break either.
-TEST_F(Pointer, RecordedMaskTakesAnything) {
-    for (const int button : {1, 2, 3, 0, 4, -1, INT_MAX, INT_MIN}) {
-        BUTTON_PRESS(button);
-        BUTTON_RELEASE(button);
-        STATE_MASK(button);
+// Buttons are numbered left, middle, right; their bits stand left, right, middle.
+TEST_F(Pointer, RecordedButtonsHaveTheBitsOfTheirKeys) {
+    STATE_MASK(0);
+    const std::pair<int, int> rows[] = {{1, VK_LBUTTON}, {2, VK_MBUTTON}, {3, VK_RBUTTON}, {0, 0},
+                                        {4, 0},          {-1, 0},         {INT_MAX, 0},    {INT_MIN, 0}};
+    for (const auto& row : rows) {
+        BUTTON_PRESS(row.first);
+        EXPECT_EQ(brask::Button_Mask, row.second) << row.first;
+        BUTTON_PRESS(row.first);
+        BUTTON_RELEASE(row.first);
+        EXPECT_EQ(brask::Button_Mask, 0) << row.first;
     }
+    for (const int button : {1, 2, 3})
+        BUTTON_PRESS(button);
+    EXPECT_EQ(brask::Button_Mask, 7);
+    BUTTON_RELEASE(2);
+    EXPECT_EQ(brask::Button_Mask, 3);
+    for (const int mask : {0x100, INT_MAX, INT_MIN, 0}) { // taken whole
+        STATE_MASK(mask);
+        EXPECT_EQ(brask::Button_Mask, mask);
+    }
+    BUTTON_PRESS(1);
     EXPECT_EQ(getbutton(1), 0); // what is recorded is not what is held
-    EXPECT_EQ(recorder::text(), "");
+    STATE_MASK(0);
 }
 
 } // namespace

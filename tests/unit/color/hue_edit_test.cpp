@@ -11,6 +11,26 @@ TEST_F(Editors, HueConstructorReports) {
     EXPECT_EQ(everything([] { Color_Edit fresh; }).find("Color_Edit"), std::string::npos);
 }
 
+TEST_F(Editors, HueCopiesCarryTheSlots) {
+    Hue_Edit editor;
+    int thing = 0;
+    editor.Edit_Slot_B = &thing, editor.Edit_Slot_D = 7, editor.Cur_Value = 5, editor.Old_Value = 6;
+    editor.Swatch_Width = 33, editor.Val_Hue.Cur_Value = 0.5f, editor.Box_Swatch.select = 2;
+    const Hue_Edit copy(editor);
+    Hue_Edit assigned;
+    EXPECT_EQ(&(assigned = editor), &assigned);
+    for (const Hue_Edit* other : {&copy, static_cast<const Hue_Edit*>(&assigned)}) {
+        EXPECT_EQ(other->Edit_Slot_A, nullptr);
+        EXPECT_EQ(other->Edit_Slot_B, &thing);
+        EXPECT_EQ(other->Edit_Slot_D, 7);
+        EXPECT_EQ(other->Cur_Value, 5u);
+        EXPECT_EQ(other->Old_Value, 6u);
+        EXPECT_EQ(other->Swatch_Width, 33);
+        EXPECT_EQ(other->Val_Hue.Cur_Value, 0.5f);
+        EXPECT_EQ(other->Box_Swatch.select, 2);
+    }
+}
+
 TEST_F(Editors, HueInit) {
     Hue_Edit editor;
     editor.Init(recorder::window());
