@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "x_errors.h"
+
 namespace platform {
 
 static std::atomic<const SdlLibrary*> opened{nullptr};
@@ -55,7 +57,10 @@ const SdlLibrary* sdl_open() {
         if (trouble) std::fprintf(stderr, "no desktop, windows stay in memory: %s\n", trouble);
         return !trouble;
     }();
-    if (works) opened = &library;
+    if (works && !opened) {
+        opened = &library;
+        forgive_late_wakes();
+    }
     return sdl_opened();
 }
 
