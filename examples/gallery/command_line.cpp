@@ -3,6 +3,7 @@
 #include <cwchar>
 
 #include <brask/fenn.h>
+#include <brask/popup.h>
 
 #include "traces.h"
 
@@ -59,6 +60,7 @@ const CommandLine::Command CommandLine::commands[] = {
     {L"font", L"NAME SIZE", L"another font; without a name the first one", &CommandLine::font},
     {L"read", L"password|integer|float|hex", L"asks for a value", &CommandLine::read},
     {L"trace", L"on|off", L"shows what the library reports", &CommandLine::trace},
+    {L"popup", L"TEXT", L"asks whether the text is right", &CommandLine::popup},
     {L"echo", L"TEXT", L"writes the text", &CommandLine::echo},
     {L"clear", L"", L"empties log and history", &CommandLine::clear},
 };
@@ -261,6 +263,13 @@ void CommandLine::trace(const std::wstring& arguments) {
     if (arguments != L"on" && arguments != L"off") return say(wrong(L"trace takes on or off."));
     traces_collect(arguments == L"on");
     say(L"Traces are " + arguments + (traces_collected() ? L": move the pointer over a field." : L"."));
+}
+
+// A window of its own, with a loop of its own, until it is answered.
+void CommandLine::popup(const std::wstring& arguments) {
+    std::wstring text = arguments.empty() ? L"Is this right?" : arguments;
+    int answer = PopUp_Query(L"question", L"Console", text.data(), nullptr, 0, 0, nullptr);
+    say(answer == 1 ? L"Yes." : answer == 0 ? L"No." : L"No answer.");
 }
 
 void CommandLine::echo(const std::wstring& arguments) { say(arguments); }

@@ -50,6 +50,7 @@ class CommandLine {
     void font(const std::wstring& arguments);
     void read(const std::wstring& arguments);
     void trace(const std::wstring& arguments);
+    void popup(const std::wstring& arguments);
     void echo(const std::wstring& arguments);
     void clear(const std::wstring&);
 
