@@ -28,8 +28,10 @@ void desktop_set_position(Window& window);
 void desktop_set_topmost(Window& window, bool topmost);
 void desktop_raise(Window& window);
 void desktop_set_capture(bool capture);
-// Whether a mouse button is held down now, as far as windows of ours have heard and the desktop agrees.
+// Whether a mouse button is held, as far as windows of ours have heard; and whether it really is at this
+// moment.
 bool desktop_button_held();
+bool desktop_button_is_down();
 // An index into the standard cursors (see cursor.h); -1: hidden.
 void desktop_set_cursor(int index);
 

@@ -10,6 +10,7 @@
 #include "keys.h"
 #include "messages.h"
 #include "modal.h"
+#include "process.h"
 #include "window_state.h"
 
 // Modal dialogs.
@@ -171,9 +172,12 @@ static void run(const Dialog& dialog) {
 // A press that ends the dialog belongs to its window until the release: a desktop whose window vanishes under
 // the button never hears of that, and takes the next press for the same one. Everything goes on meanwhile.
 static void await_release(const Dialog& dialog) {
-    constexpr int kPatience = 5; // milliseconds
+    constexpr int kPatience = 5;     // milliseconds
+    constexpr ULONGLONG kLost = 200; // so long after the button went up, nobody will tell of it any more
     MSG msg;
-    while (find_window(dialog.wnd) && desktop_button_held()) {
+    ULONGLONG seen = GetTickCount64();
+    while (find_window(dialog.wnd) && desktop_button_held() && GetTickCount64() - seen < kLost) {
+        if (desktop_button_is_down()) seen = GetTickCount64();
         if (!PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
             desktop_wait(kPatience);
         } else if (msg.message == WM_QUIT) {

@@ -11,6 +11,7 @@ import files
 import hosts
 import items
 import pages
+import popups
 import typing_keys
 import values
 from display import Display, System

@@ -147,7 +147,12 @@ void desktop_set_capture(bool capture) {
 
 bool desktop_button_held() {
     const SdlLibrary* sdl = sdl_opened();
-    return sdl && sdl->SDL_GetMouseState(nullptr, nullptr) && sdl->SDL_GetGlobalMouseState(nullptr, nullptr);
+    return sdl && sdl->SDL_GetMouseState(nullptr, nullptr) != 0;
+}
+
+bool desktop_button_is_down() {
+    const SdlLibrary* sdl = sdl_opened();
+    return sdl && sdl->SDL_GetGlobalMouseState(nullptr, nullptr) != 0;
 }
 
 void desktop_set_cursor(int index) {
