@@ -73,7 +73,7 @@ def main(native_folder, windows_folder):
             systems.append(windows)
         for system in systems:
             tally.scene(hosts.options, system)
-            for scene in (pages.basics, values.values, items.items, typing_keys.typing, console.console, files.files,
+            for scene in (pages.basics, values.values, items.items, typing_keys.typing, console.console, files.files, popups.popups,
                           files.pick, pages.sizes, hosts.hello, hosts.log):
                 tally.scene(scene, system, display)
         if windows:
