@@ -198,3 +198,88 @@ TEST_F(Deselect, TellsItsWaysOut) {
     console.Deselect();
     EXPECT_EQ(tag("Deselect"), "< 0");
 }
+
+// --- The line under the pointer: 10 pixels each, the newest from 203 up ---
+
+struct Read_Line : Tracking {
+    std::string at(int y, int x = 250) {
+        recorder::pointer(x, y);
+        const wchar_t* line = console.Read_Line();
+        return line ? recorder::narrow(line) : "none";
+    }
+};
+
+TEST_F(Read_Line, WhereTwoTouchTheLowerOneAnswers) {
+    init();
+    fill(3);
+    EXPECT_EQ(at(202), "none");
+    EXPECT_EQ(at(203), "line 2");
+    EXPECT_EQ(at(213), "line 2");
+    EXPECT_EQ(at(214), "line 1");
+    EXPECT_EQ(at(223), "line 1");
+    EXPECT_EQ(at(224), "line 0");
+    EXPECT_EQ(at(233), "line 0");
+    EXPECT_EQ(at(234), "none") << "above the oldest";
+    EXPECT_EQ(at(208, -500), "line 2") << "only the height counts";
+}
+
+TEST_F(Read_Line, FollowsTheScrollingAndTheStrip) {
+    init(TEXTS_CURSOR_V);
+    fill(100);
+    console.Cursor_V.Cur_Value = 30.0f;
+    EXPECT_EQ(at(208), "line 96");
+    EXPECT_EQ(at(203), "line 96") << "the one below lies out of the log";
+    console.Cursor_V.Flag |= OUTIL_DISABLE;
+    EXPECT_EQ(at(208), "line 99");
+    console.Flag |= TEXTS_READ_STRIP; // 19 pixels
+    EXPECT_EQ(at(208), "none");
+    EXPECT_EQ(at(227), "line 99");
+}
+
+TEST_F(Read_Line, GivesTheWholeLineWithItsMarksInABufferOfItsOwn) {
+    init();
+    console.Write(L"\x1"
+                  L"a\xF1"
+                  L"b");
+    recorder::pointer(250, 208);
+    wchar_t* const found = console.Read_Line();
+    ASSERT_NE(found, nullptr);
+    EXPECT_STREQ(found, L"\x1"
+                        L"a\xF1"
+                        L"b");
+    EXPECT_NE(found, console.Lines[0]);
+    console.OverWrite(L"other");
+    EXPECT_EQ(console.Read_Line(), found) << "one for all calls";
+    EXPECT_STREQ(found, L"other");
+}
+
+TEST_F(Read_Line, ALineFromTheHostIsCutToTheBuffer) {
+    init();
+    console.Write(L"x");
+    std::free(console.Lines[0]);
+    console.Lines[0] = static_cast<wchar_t*>(std::calloc(5001, sizeof(wchar_t)));
+    std::fill_n(console.Lines[0], 5000, L'n');
+    EXPECT_EQ(at(208), std::string(1023, 'n'));
+}
+
+TEST_F(Read_Line, AHoleIsNoLine) {
+    init();
+    fill(3);
+    std::free(console.Lines[1]);
+    console.Lines[1] = nullptr;
+    EXPECT_EQ(at(213), "line 2");
+    EXPECT_EQ(at(218), "none");
+    EXPECT_EQ(at(223), "line 0") << "the far end of a hole belongs to the next one";
+}
+
+TEST_F(Read_Line, HiddenEmptyOrTooSmallThereIsNone) {
+    init();
+    EXPECT_EQ(at(208), "none") << "nothing was ever written";
+    fill(1);
+    EXPECT_EQ(painted([&] { at(208); }),
+              "Zeb_setup(WND, \"Texts::Read_Line\")\nread_curs()\nZeb_release()\n");
+    console.Flag = OUTIL_INVISIBLE;
+    EXPECT_EQ(painted([&] { EXPECT_EQ(at(208), "none"); }), "");
+    console.Flag = 0, console.Dim_Y = 7; // inside the bevel nothing is left
+    EXPECT_EQ(painted([&] { EXPECT_EQ(at(203), "none"); }), "");
+}
