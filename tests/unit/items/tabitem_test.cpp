@@ -1,6 +1,5 @@
 #include <brask/buttons.h>
 
-#include "support/picture.h"
 #include "tab_fixture.h"
 
 // One tab: what it paints, when, and what it answers.
@@ -319,25 +318,6 @@ TEST_F(Tab, SolidFaceForEachShapeValueAndLook) {
                         everything([&] { tab.Fill_Select(on, nullptr, OUTIL_EMPTY, 4, 16, 84, 20, 45); }),
                         "");
                 }
-}
-
-// Without a slant, full and cut ends take the same place: all of the rectangle, and its base below.
-TEST_F(Tab, WithoutASlantItIsARectangleWhateverItsEnds) {
-    tab.Slant = 0;
-    tab.Name_Set(nullptr);
-    for (const unsigned char shape : kShapes)
-        for (const int value : {0, 1}) {
-            tab.Shape = shape, tab.Cur_Value = value;
-            Picture picture(100, 60);
-            recorder::paint_on(&picture);
-            tab.Draw();
-            recorder::paint_on(nullptr);
-            EXPECT_TRUE(picture.painted_only_in(10, 17, 93, 43)); // a tab on top wipes three columns more
-            for (int y = 21; y <= 43; y++)
-                for (int x = 10; x <= 90; x++)
-                    ASSERT_NE(picture.at(x, y), Picture::kUntouched)
-                        << x << ", " << y << " of shape " << int(shape) << " value " << value;
-        }
 }
 
 TEST_F(Tab, SolidFaceByItsNumbers) {
