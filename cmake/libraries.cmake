@@ -11,10 +11,11 @@ get_property(fenn_sources GLOBAL PROPERTY HOUSE_SOURCES_fenn)
 add_library(brask STATIC ${brask_sources} $<TARGET_OBJECTS:text>)
 target_link_libraries(brask PUBLIC brask_headers platform_names)
 # The third level makes the controls a fifth larger, and is felt only in what they call. What is made of controls
-# spends its time in these, and is written for room.
+# spends its time in these, and is written for room; but for the log and the lists, which are for many entries.
 target_compile_options(brask PRIVATE $<$<CONFIG:Release>:-O2>)
 set(brask_compound ${brask_sources})
 list(FILTER brask_compound INCLUDE REGEX "/(items|color|console|browser|popup)/[^/]*$")
+list(FILTER brask_compound EXCLUDE REGEX "/(console/(store|formatted|texts|geometry)|items/list)[a-z_]*[.]cpp$")
 set_source_files_properties(${brask_compound} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-Os>)
 # Its loops over whole pictures become twice as fast.
 set_source_files_properties(${PROJECT_SOURCE_DIR}/foundation/shrink.cpp PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-O3>)
@@ -27,7 +28,7 @@ target_link_libraries(fenn PUBLIC brask_headers platform raster text PRIVATE fen
 target_compile_definitions(fenn PUBLIC FENN_STATIC)
 target_include_directories(fenn PUBLIC ${HOUSE_FLOORS}/fenn)
 set(fenn_seldom ${fenn_sources})
-list(FILTER fenn_seldom EXCLUDE REGEX "/(painter|shapes|reports|text|text_[a-z]*|window_[a-z]*)[.]cpp$")
+list(FILTER fenn_seldom EXCLUDE REGEX "/(painter|shapes|reports|text|text_[a-z]*|window_[a-z]*|windows_known|system_portable)[.]cpp$")
 set_source_files_properties(${fenn_seldom} PROPERTIES COMPILE_OPTIONS $<$<CONFIG:Release>:-Os>)
 
 # On Windows what a library exports is marked in the objects, so the shared ones are compiled for themselves.
