@@ -224,7 +224,14 @@ void append(Font& font, std::uint64_t glyph, Run& run) {
     run.width = limit(std::int64_t{run.width} + advance);
 }
 
-int run_width(Font& font, const wchar_t* text) { return find_run(font, text).width; }
+int run_width(Font& font, const wchar_t* text) {
+    if (!*text || text[1]) return find_run(font, text).width;
+    if (font.lone != *text) {
+        font.lone_width = find_run(font, text).width;
+        font.lone = *text;
+    }
+    return font.lone_width;
+}
 
 int run_write(Font& font, int x, int y, const wchar_t* text, std::uint32_t color) {
     Run& run = find_run(font, text);

@@ -58,6 +58,8 @@ struct Font {
     int height = 16;      // of a line
     int ascent = 13;      // of it above the baseline
     int style = 0;        // the kind's own matter
+    wchar_t lone = 0;     // the one letter measured last, and its width: every label asks for a "W"
+    int lone_width = 0;
 };
 
 std::uint32_t next_font_id();

@@ -106,7 +106,8 @@ std::vector<Mount> real_mounts(const std::string& table) {
     }
     const auto root = std::find_if(all.begin(), all.end(), [](const Mount& m) { return m.point.empty(); });
     if (root == all.end())
-        all.insert(all.begin(), Mount{});
+        all.insert(all.begin(),
+                   Mount{"", "", "rootfs", "", false}); // a root of another's making, as in a jail
     else
         std::rotate(all.begin(), root, root + 1);
     std::vector<Mount> mounts;

@@ -12,7 +12,7 @@ std::vector<Scene> all_scenes() {
     std::vector<Scene> all;
     for (const auto* scenes :
          {&BOX_SCENES, &LABEL_SCENES, &BUTTON_SCENES, &PART_SCENES, &VALUATOR_SCENES, &COLOR_SCENES,
-          &SLIDER_SCENES, &LIST_SCENES, &ITEM_SCENES, &ICON_SCENES, &CONSOLE_SCENES})
+          &SLIDER_SCENES, &LIST_SCENES, &ITEM_SCENES, &ICON_SCENES, &CONSOLE_SCENES, &POPUP_SCENES})
         all.insert(all.end(), scenes->begin(), scenes->end());
     return all;
 }
