@@ -1,7 +1,6 @@
 #include <brask/texts.h>
 
 #include <cstdarg>
-#include <cstdlib>
 #include <cwchar>
 
 #include <brask/fenn.h>
@@ -155,18 +154,11 @@ const char* Texts::Type(wchar_t character) {
 
 // Reading goes on until the host collects the line; nothing is repainted.
 void Texts::Enter() {
-    if (!(Flag & TEXTS_FIELD)) Keep_Line(&Texts::Lines, &Texts::Scroll_1);
-    Keep_Line(&Texts::History, &Texts::Scroll_2);
+    const auto length = static_cast<std::size_t>(edit_length(*this));
+    if (!(Flag & TEXTS_FIELD)) Put_Line(&Texts::Lines, &Texts::Scroll_1, 1, Edit_Line, length);
+    Put_Line(&Texts::History, &Texts::Scroll_2, 1, Edit_Line, length);
     flag_read |= TEXTS_ENTERED;
     Cursor_V.Cur_Value = 0;
-}
-
-// The line becomes the newest one of a store, which stays as it is without memory.
-void Texts::Keep_Line(wchar_t** Texts::*store, void (Texts::*scroll)(int)) {
-    wchar_t* line = copy_line(Edit_Line, static_cast<std::size_t>(edit_length(*this)));
-    if (line) (this->*scroll)(1);
-    if (!line || !(this->*store)) return std::free(line);
-    (this->*store)[0] = line;
 }
 
 void Texts::Give_Up() {

@@ -112,16 +112,24 @@ void Texts::Cleanup() {
 
 // --- Writing ---
 
+// Copied first: without memory a store stays as it is.
+bool Texts::Put_Line(wchar_t** Texts::*store, void (Texts::*scroll)(int), int n, const wchar_t* text,
+                     std::size_t length) {
+    wchar_t* line = copy_line(text, length);
+    if (line) (this->*scroll)(n);
+    if (line && this->*store) {
+        (this->*store)[0] = line;
+        return true;
+    }
+    std::free(line);
+    return false;
+}
+
 // Each piece between line feeds becomes a line, an empty one too. The first takes the place that `n` makes.
-// Where there is no memory, what is there stays.
 void Texts::Store(const wchar_t* text, int n) {
     for (;; n = 1) {
         const std::size_t length = std::wcscspn(text, L"\n");
-        wchar_t* line = copy_line(text, length);
-        if (line) Scroll_1(n);
-        if (!line || !Lines) return std::free(line);
-        Lines[0] = line;
-        if (!text[length]) return;
+        if (!Put_Line(&Texts::Lines, &Texts::Scroll_1, n, text, length) || !text[length]) return;
         text += length + 1;
     }
 }

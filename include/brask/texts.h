@@ -128,6 +128,9 @@ class BRASK_API Texts : public Tools {
     void Scroll_1(int n); // the log
     void Scroll_2(int n); // the history
     void Free_Stores();
+    // Puts a line in front of a store, in which scroll(n) makes room; false without memory.
+    bool Put_Line(wchar_t** Texts::*store, void (Texts::*scroll)(int), int n, const wchar_t* text,
+                  std::size_t length);
     // Puts the lines of a text into the log, the first of them by Scroll_1(n).
     void Store(const wchar_t* text, int n);
     // The same with the repaint; gives the way out.
@@ -151,7 +154,6 @@ class BRASK_API Texts : public Tools {
     const char* Take(int key);
     const char* Type(wchar_t character);
     void Enter();
-    void Keep_Line(wchar_t** Texts::*store, void (Texts::*scroll)(int));
     void Give_Up();
     void Paste();
 };
