@@ -1,10 +1,14 @@
-"""What can be proven of the written pages: their links lead somewhere, and the code that they show is the real one."""
+"""What can be proven of the written pages: their links lead somewhere, and the code that they show is the real one.
+And of the icon files: they are those that their program draws."""
 
+import filecmp
 import fnmatch
 import glob
 import os
 import re
 import subprocess
+import sys
+import tempfile
 
 
 def pages(tally):
@@ -18,6 +22,17 @@ def pages(tally):
     tally.check("README shows the small host", None if shown else "its code is another one")
     tally.check("each test that the table of proofs names is there", missing_test("docs/conformance.md"))
     tally.check("the picture is small", None if os.path.getsize("docs/pictures/basics.png") < 150_000 else "it is not")
+
+
+def icons(tally):
+    """Each file that is drawn is kept, and each one kept is drawn, byte for byte."""
+    with tempfile.TemporaryDirectory() as drawn:
+        subprocess.run([sys.executable, "icons/make.py", drawn], check=True)
+        kept = [os.path.basename(path) for kind in ("rgb", "tga") for path in glob.glob(f"icons/*.{kind}")]
+        names = sorted({*kept, *os.listdir(drawn)})
+        same, _, _ = filecmp.cmpfiles("icons", drawn, names, shallow=False)
+        tally.check("the icon files are as icons/make.py draws them", ", ".join(sorted({*names} - {*same})))
+        tally.check("icon files are found", None if same else "there is none")
 
 
 def missing_test(page):

@@ -65,6 +65,7 @@ def windows_system(folder, tally, display):
 def main(native_folder, windows_folder):
     tally = Tally("build/system")
     tally.scene(documents.pages)
+    tally.scene(documents.icons)
     systems = [System("native", native_folder, "", [])]
     display = Display()
     try:
@@ -73,8 +74,8 @@ def main(native_folder, windows_folder):
             systems.append(windows)
         for system in systems:
             tally.scene(hosts.options, system)
-            for scene in (pages.basics, values.values, items.items, typing_keys.typing, console.console, files.files, popups.popups,
-                          files.pick, pages.sizes, hosts.hello, hosts.log):
+            for scene in (pages.basics, values.values, items.items, typing_keys.typing, console.console, files.files,
+                          popups.popups, files.pick, pages.sizes, hosts.hello, hosts.log):
                 tally.scene(scene, system, display)
         if windows:
             tally.scene(hosts.same_pictures, windows, systems[0])
