@@ -10,6 +10,9 @@ inline int editor_key(UINT message, WPARAM wparam, int code) {
     if (!code) return 0;
     if (message == WM_CHAR) return int(wparam); // without the Ctrl and Alt of an AltGr
     if (code == (KEY_CTRL | 'V')) return code;  // paste
+    // With Alt the digits of the pad spell a character, which Windows types when Alt comes up.
+    constexpr int spelling = KEY_ALT | KEY_PAD;
+    if (code >= (spelling | VK_NUMPAD0) && code <= (spelling | VK_NUMPAD9)) return 0;
     const int key = code & ~(KEY_SHIFT | KEY_CTRL | KEY_ALT);
     switch (key) {
     case VK_BACK:

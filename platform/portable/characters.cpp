@@ -26,9 +26,10 @@ struct FixedKey {
     int plain, control, control_shift;
 };
 static const FixedKey kFixed[] = {
-    {VK_CANCEL, 3, 3, 3},    {VK_BACK, 8, 127, -1},    {VK_TAB, 9, -1, -1},    {VK_RETURN, 13, 10, -1},
-    {VK_ESCAPE, 27, 27, -1}, {VK_SPACE, -1, ' ', ' '}, {VK_OEM_4, -1, 27, -1}, {VK_OEM_5, -1, 28, -1},
-    {VK_OEM_6, -1, 29, -1},  {VK_OEM_102, -1, 28, -1}, {'6', -1, -1, 30},      {VK_OEM_MINUS, -1, -1, 31},
+    {VK_CANCEL, 3, 3, -1},      {VK_BACK, 8, 127, -1},    {VK_TAB, 9, -1, -1},    {VK_RETURN, 13, 10, -1},
+    {VK_ESCAPE, 27, 27, -1},    {VK_SPACE, -1, ' ', -1},  {VK_OEM_4, -1, 27, -1}, {VK_OEM_5, -1, 28, -1},
+    {VK_OEM_6, -1, 29, -1},     {VK_OEM_102, -1, 28, -1}, {'2', -1, -1, 0},       {'6', -1, -1, 30},
+    {VK_OEM_MINUS, -1, -1, 31},
 };
 
 // What a pad key types when the desktop gave no text with it.
@@ -76,7 +77,7 @@ static std::u16string typed_text(const MSG& msg) {
     const FixedKey* row = fixed_key(key);
     if (row && row->plain >= 0) return one(row->plain);
     const bool system = msg.message == WM_SYSKEYDOWN;
-    // With Alt the digits of the pad spell the number of a character, which is not kept here.
+    // On Windows they spell the number of a character with Alt; here an input method does that.
     if (system && key >= VK_NUMPAD0 && key <= VK_NUMPAD9) return {};
     const TakenKey& taken = taken_key();
     const bool known = msg.hwnd == taken.msg.hwnd && msg.message == taken.msg.message &&

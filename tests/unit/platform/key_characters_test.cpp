@@ -13,7 +13,7 @@ static std::vector<WPARAM> characters(Host& host, UINT message = WM_CHAR) {
 using Characters = std::vector<WPARAM>;
 
 constexpr int kA = 4, k1 = 30, kEnter = 40, kEscape = 41, kBack = 42, kTab = 43, kSpace = 44, kMinus = 45,
-              kOpen = 47, kClose = 48, kBackslash = 49, kLeft = 80, kDelete = 76, kPadPlus = 87,
+              kOpen = 47, kClose = 48, kBackslash = 49, kPause = 72, kLeft = 80, kDelete = 76, kPadPlus = 87,
               kPadEnter = 88, kPad7 = 95, kControl = 224, kShift = 225, kAlt = 226;
 
 TEST(KeyCharacters, FollowTheirKeyAtOnceWithItsParameters) {
@@ -100,11 +100,23 @@ TEST(KeyCharacters, WithControlOtherKeysHaveTheirs) {
     }
     type(k1, "1"); // what the desktop takes for text although Control is held
     EXPECT_EQ(characters(host), Characters());
+}
+
+TEST(KeyCharacters, WithControlAndShiftAreThoseOfThreeKeysAndOfLetters) {
+    ShownHost host;
+    key(kControl, true);
     key(kShift, true);
-    tap(35);
-    EXPECT_EQ(characters(host), (Characters{30}));
-    tap(kMinus);
-    EXPECT_EQ(characters(host), (Characters{31}));
+    struct Row {
+        int scancode;
+        Characters characters;
+    };
+    for (const Row& row :
+         {Row{k1, {}}, Row{k1 + 1, {0}}, Row{k1 + 5, {30}}, Row{kMinus, {31}}, Row{kSpace, {}},
+          Row{kOpen, {}}, Row{kBackslash, {}}, Row{kClose, {}}, Row{kEnter, {}}, Row{kBack, {}},
+          Row{kTab, {}}, Row{kEscape, {}}, Row{kPause, {}}, Row{kPadPlus, {}}, Row{kA, {1}}}) {
+        type(row.scancode, "!"); // what the desktop takes for text all the same
+        EXPECT_EQ(characters(host), row.characters) << row.scancode;
+    }
 }
 
 TEST(KeyCharacters, WithControlAndAltAreNone) {
