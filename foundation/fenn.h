@@ -115,8 +115,7 @@ FENN_API int IGB_Read_Image(const wchar_t* file, IGB_data* image, void* unused);
 FENN_API int TGA_Read_Image(const wchar_t* file, IGB_data* image, void* unused);
 FENN_API void IGB_Free(IGB_data* image);
 // Lists the sub-folders of a folder, links to folders included, in the order of their lower-case names; "."
-// and
-// ".." are left out. `count`, which may be null, gets their number. Null, with errno set, when the folder
+// and ".." are left out. `count`, which may be null, gets their number. Null, with errno set, when the folder
 // cannot be listed; free the list with Scan_Free.
 FENN_API Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count);
 FENN_API void Scan_Free(Dir_Ulmen* list);

@@ -1,13 +1,20 @@
 #!/usr/bin/env bash
-# Installs a build tree into a folder and builds the smallest host against that folder alone.
-#   check_install.sh BUILD_TREE
+# Installs a build tree into a folder and builds hosts against that folder alone; one of them is run.
+#   check_install.sh BUILD_TREE [STARTER...]
 set -eu
 cd "$(dirname "$0")/.."
-tree=$1
+tree=$PWD/$1
+shift
 prefix=$tree/installed
-rm -rf "$prefix"
+hosts=$tree/installed-hosts
+rm -rf "$prefix" "$hosts"
 cmake --install "$tree" --prefix "$prefix"
-flags=$(sed -n 's/^BRASK_SANITIZE:BOOL=ON$/-fsanitize=address,undefined/p' "$tree/CMakeCache.txt")
-g++ -std=c++17 -Wall -Wextra -Werror $flags -I"$prefix/include" examples/hello/main.cpp -o "$tree/hello-installed" \
-    "$prefix/lib/Lib_Brask.so" "$prefix/lib/Lib_Fenn.so" -Wl,-rpath,"$PWD/$prefix/lib"
-echo "1 passed, 0 failed"
+cached() { sed -n "s/^$1:[A-Z]*=//p" "$tree/CMakeCache.txt"; }
+options=()
+[ "$(cached BRASK_SANITIZE)" != ON ] || options+=(-DCMAKE_CXX_FLAGS=-fsanitize=address,undefined)
+[ -z "$(cached CMAKE_TOOLCHAIN_FILE)" ] || options+=(-DCMAKE_TOOLCHAIN_FILE="$(realpath "$(cached CMAKE_TOOLCHAIN_FILE)")")
+cmake -G Ninja -S tests/install -B "$hosts" -Dbrask_DIR="$prefix/lib/cmake/brask" "${options[@]}"
+cmake --build "$hosts"
+program=$hosts/version
+[ -e "$program" ] || program+=.exe
+WINEPATH=$prefix/bin "$@" "$program"

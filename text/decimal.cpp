@@ -9,7 +9,6 @@ namespace text {
 namespace {
 
 constexpr std::uint32_t limb_base = 1000000000; // nine decimal digits
-constexpr int limb_digits = 9;
 
 // A whole number, the lowest limb first. The largest is 2 to 53 times 5 to 1074: 86 limbs.
 struct Whole {

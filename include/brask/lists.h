@@ -8,7 +8,7 @@
 
 // A list of items in a frame, stacked from the top with OUTIL_VERTICAL, else side by side from the left. Each
 // item is a button that the list owns. Items that all fit share the room evenly; otherwise they get a fixed
-// size and a slider scrolls them, by whole items.
+// size and a slider scrolls them; those that are not wholly in view are left out.
 //
 // One item is current. The list shows that but does not take it from the pointer: where Select answers not 0
 // the host sets Cur_Value = Read(), then calls Adjust(). A wheel goes to Scroll.
