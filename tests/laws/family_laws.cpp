@@ -9,16 +9,14 @@
 #include <brask/tabs.h>
 #include <brask/valuators.h>
 
-#include "support/recorded.h"
-
-#include "chance.h"
+#include "laws.h"
 
 // Laws about pixels that the controls of values, items and colours all keep, on a small picture behind the
 // recorder.
 
 namespace {
 
-constexpr int kWidth = 200, kHeight = 160;
+using Sheet = On_A_Picture<200, 160>;
 
 // What one of them shows, apart from the pointer.
 struct Fields {
@@ -109,7 +107,7 @@ Fields any_fields(Chance& chance) {
     for (const DWORD flag : kFlags)
         if (chance.one_in(5)) f.flag |= flag;
     f.dx = chance.between(110, 160), f.dy = chance.between(80, 120);
-    f.x = chance.between(10, kWidth - f.dx - 12), f.y = chance.between(10, kHeight - f.dy - 12);
+    f.x = chance.between(10, Sheet::kWidth - f.dx - 12), f.y = chance.between(10, Sheet::kHeight - f.dy - 12);
     f.border = chance.between(0, 4);
     f.count = chance.between(2, 7);
     f.value = chance.word();
@@ -127,11 +125,10 @@ void apply(Control& control, const Fields& f) {
     f.name ? control.Name_Set(L"%ls", f.name) : control.Name_Set(nullptr);
     set_up(control, f);
 }
-void any_pointer(Chance& chance) { recorder::pointer(chance.between(0, kWidth), chance.between(0, kHeight)); }
 template <typename Control>
 void operate(Control& control, Chance& chance, int times = 8) {
     for (int i = 0; i < times; ++i) {
-        any_pointer(chance);
+        Sheet::any_pointer(chance);
         switch (chance.below(6)) {
         case 0: control.Draw(); break;
         case 1: control.Adjust(); break;
@@ -144,33 +141,13 @@ void operate(Control& control, Chance& chance, int times = 8) {
 }
 
 template <typename Control>
-struct Family : Recorded {
-    Picture picture{kWidth, kHeight};
-    void SetUp() override {
-        Recorded::SetUp();
-        recorder::paint_on(&picture);
-    }
+struct Family : Sheet {
     template <typename Law>
     void for_seeds(Law law) {
-        const unsigned seed = law_seed();
-        for (int round = 0; round < law_rounds(20) && !HasFailure(); ++round) {
-            SCOPED_TRACE(testing::Message() << "LAWS_SEED=" << seed << " round " << round);
-            Chance chance(seed + static_cast<unsigned>(round));
-            recorder::pointer(0, 0);
-            picture.wipe();
-            law(chance, any_fields(chance));
-            recorder::paint_on(&picture);
-            recorder::clear();
-        }
+        for_pictures(20, [&](Chance& chance) { law(chance, any_fields(chance)); });
     }
     static Picture fresh(const Fields& f) {
-        Picture picture(kWidth, kHeight);
-        recorder::paint_on(&picture);
-        Control control;
-        apply(control, f);
-        control.Init(recorder::window());
-        control.Draw();
-        return picture;
+        return new_one<Control>([&](Control& control) { apply(control, f); });
     }
 };
 using Controls =
@@ -182,7 +159,7 @@ TYPED_TEST(Family, DrawingTwiceIsDrawingOnce) {
         TypeParam control;
         apply(control, fields);
         control.Init(recorder::window());
-        any_pointer(chance);
+        this->any_pointer(chance);
         control.Draw();
         const Picture once = this->picture;
         control.Draw();
@@ -206,14 +183,11 @@ TYPED_TEST(Family, NothingIsPaintedOutsideOfTheClip) {
     if (!kClips<TypeParam>) GTEST_SKIP() << "required so";
     this->for_seeds([this](Chance& chance, const Fields& fields) {
         TypeParam control;
-        control.Clip_X = chance.between(1, kWidth), control.Clip_Y = chance.between(1, kHeight);
-        control.Clip_Dim_X = chance.between(1, 90), control.Clip_Dim_Y = chance.between(1, 90);
+        this->any_clip(control, chance, this->kWidth, this->kHeight, 90);
         apply(control, fields);
         control.Init(recorder::window());
         operate(control, chance);
-        EXPECT_TRUE(this->picture.painted_only_in(control.Clip_X, control.Clip_Y,
-                                                  control.Clip_X + control.Clip_Dim_X - 1,
-                                                  control.Clip_Y + control.Clip_Dim_Y - 1));
+        EXPECT_TRUE(this->only_in_clip(control));
     });
 }
 
@@ -251,11 +225,7 @@ TYPED_TEST(Family, DrawCoversWhatStoodThere) {
         recorder::pointer(0, 0);
         control.Deselect();
         control.Draw();
-        const Picture drawn = this->picture;
-        Picture again(kWidth, kHeight);
-        recorder::paint_on(&again);
-        control.Draw();
-        EXPECT_TRUE(drawn == again);
+        EXPECT_TRUE(this->picture == this->apart([&] { control.Draw(); }));
     });
 }
 

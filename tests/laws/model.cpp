@@ -1,5 +1,7 @@
 #include "model.h"
 
+#include "laws.h"
+
 namespace {
 
 constexpr DWORD kNoFace = OUTIL_EMPTY | OUTIL_INVISIBLE | GRAPH_OUTLINE;

@@ -22,12 +22,6 @@ struct Expected {
     bool must_paint = false;
 };
 
-// The pointer as the control sees it, against the rectangle that its last Init made.
-inline bool hits(const Tools& control, POINT at) {
-    return at.x >= control.Region.left && at.x < control.Region.right && at.y >= control.Region.top &&
-           at.y < control.Region.bottom;
-}
-
 Expected expected_of(const Boxs& box, Act act, int mode, POINT pointer);
 Expected expected_of(const Buttons& button, Act act, int mode, POINT pointer);
 Expected expected_of(const Labels& label, Act act, int mode, POINT pointer);

@@ -4,23 +4,13 @@
 #include <brask/buttons.h>
 #include <brask/labels.h>
 
-#include "support/recorded.h"
-
-#include "chance.h"
+#include "laws.h"
 
 // Laws about pixels, on a small picture behind the recorder.
 
 namespace {
 
-constexpr int kWidth = 120, kHeight = 90;
-
-struct Painting : Recorded {
-    Picture picture{kWidth, kHeight};
-    void SetUp() override {
-        Recorded::SetUp();
-        recorder::paint_on(&picture);
-    }
-
+struct Painting : On_A_Picture<120, 90> {
     // Fields of a control that lies in the picture and is not smaller than its bevels.
     struct Fields {
         DWORD flag;
@@ -62,37 +52,18 @@ struct Painting : Recorded {
         f.name ? control.Name_Set(L"%ls", f.name) : control.Name_Set(nullptr);
         value(control, f);
     }
-    static void any_pointer(Chance& chance) {
-        recorder::pointer(chance.between(0, kWidth), chance.between(0, kHeight));
-    }
 
     // The picture of a new control with these fields.
     template <typename Control>
     static Picture fresh(const Fields& f) {
-        Picture picture(kWidth, kHeight);
-        recorder::paint_on(&picture);
-        Control control;
-        apply(control, f);
-        control.Init(recorder::window());
-        control.Draw();
-        return picture;
+        return new_one<Control>([&](Control& control) { apply(control, f); });
     }
     template <typename Law>
     void for_seeds(Law law) {
-        const unsigned seed = law_seed();
-        for (int round = 0; round < law_rounds(120) && !HasFailure(); ++round) {
-            SCOPED_TRACE(testing::Message() << "LAWS_SEED=" << seed << " round " << round);
-            Chance chance(seed + static_cast<unsigned>(round));
+        for_pictures(120, [&](Chance& chance) {
             any_pointer(chance);
-            picture.wipe();
             law(chance);
-            recorder::paint_on(&picture);
-            recorder::clear();
-        }
-    }
-    template <typename Control>
-    void expect_inside(const Control& c, int more = 0) {
-        EXPECT_TRUE(picture.painted_only_in(c.Pos_X, c.Pos_Y, c.Pos_X + c.Dim_X, c.Pos_Y + c.Dim_Y + more));
+        });
     }
 };
 
@@ -136,7 +107,7 @@ TYPED_TEST(PaintingOf, NothingIsPaintedOutside) {
         this->apply(control, this->any_fields(chance));
         control.Init(recorder::window());
         this->operate(control, chance);
-        this->expect_inside(control);
+        EXPECT_TRUE(this->only_in(control));
     });
 }
 
@@ -144,14 +115,11 @@ TYPED_TEST(PaintingOf, NothingIsPaintedOutsideOfTheClip) {
     this->for_seeds([this](Chance& chance) {
         TypeParam control;
         this->apply(control, this->any_fields(chance));
-        control.Clip_X = chance.between(1, kWidth), control.Clip_Y = chance.between(1, kHeight);
-        control.Clip_Dim_X = chance.between(1, 60), control.Clip_Dim_Y = chance.between(1, 60);
+        this->any_clip(control, chance, this->kWidth, this->kHeight, 60);
         control.Init(recorder::window());
         this->operate(control, chance);
         control.Clear();
-        EXPECT_TRUE(this->picture.painted_only_in(control.Clip_X, control.Clip_Y,
-                                                  control.Clip_X + control.Clip_Dim_X - 1,
-                                                  control.Clip_Y + control.Clip_Dim_Y - 1));
+        EXPECT_TRUE(this->only_in_clip(control));
     });
 }
 
@@ -183,7 +151,7 @@ TYPED_TEST(PaintingOf, ClearCoversTheControlExactly) {
         control.Init(recorder::window());
         const int more = chance.of({0, 1}); // the forms with an argument paint one row above
         more ? control.Clear(0x123456u) : control.Clear();
-        this->expect_inside(control, more);
+        EXPECT_TRUE(this->only_in(control, more));
         const DWORD word = more ? 0x123456 : control.Color_Get() & 0xFFFFFF;
         for (int y = control.Pos_Y; y <= control.Pos_Y + control.Dim_Y + more; ++y)
             for (int x = control.Pos_X; x <= control.Pos_X + control.Dim_X; ++x)

@@ -2,7 +2,7 @@
 
 #include "support/recorded.h"
 
-#include "chance.h"
+#include "laws.h"
 #include "model.h"
 
 // Random operations in random order on random fields, each held against the model of the protocol.
@@ -114,16 +114,6 @@ void change(Control& control, Chance& chance, Any any) {
 
 // --- The laws ---
 
-bool paints(const recorder::Line& line) {
-    return line.kind == recorder::kDraw &&
-           (line.text.rfind("draw", 0) == 0 || line.text.rfind("Zeb_Font_Write", 0) == 0);
-}
-bool painted_something() {
-    for (const recorder::Line& line : recorder::log())
-        if (paints(line)) return true;
-    return false;
-}
-
 int select_of(const Labels&) { return 0; }
 template <typename Control>
 int select_of(const Control& control) {
@@ -153,10 +143,7 @@ struct Laws : Recorded {
     // Acts, pointers and changes at random until something differs from the model.
     template <typename Control, typename Any>
     void run(Any any) {
-        const unsigned seed = law_seed();
-        for (int round = 0; round < law_rounds(150) && !HasFailure(); ++round) {
-            Chance chance(seed + static_cast<unsigned>(round));
-            SCOPED_TRACE(testing::Message() << "LAWS_SEED=" << seed << " round " << round);
+        for_seeds(150, [&](Chance& chance) {
             Control control;
             for (int step = 0; step < 60 && !HasFailure(); ++step) {
                 for (unsigned changes = chance.below(3); changes > 0; --changes)
@@ -171,7 +158,7 @@ struct Laws : Recorded {
                 recorder::clear();
                 hold(control, act, e, perform(control, act, mode));
             }
-        }
+        });
     }
     static int sensible(Chance& chance) { return chance.of({-1, 0, 1, 5, 12, 24, 25, 26, 30, 60, 100}); }
     static int extreme(Chance& chance) {

@@ -6,7 +6,7 @@
 #include <brask/buttons.h>
 #include <brask/labels.h>
 
-#include "support/recorded.h"
+#include "expect.h"
 
 // What all controls do alike: warnings, the size check, binding to a window, the hit test, names in traces.
 
@@ -59,10 +59,6 @@ struct FirstUse : Protocol {
                 {"", "Tools::Clear", [this] { tools.Clear(1u); }, &tools},
                 {"", "Tools::Clear", [this] { tools.Clear(Colors()); }, &tools}};
     }
-    static std::string warning(const std::string& why, const std::string& type, const std::string& name) {
-        return "[80000001] Tools: WARNING ! \n[80000001] " + why + "\n[80000001]    type: " + type +
-               "   name: " + name + "\\n\n";
-    }
 };
 
 TEST_F(FirstUse, WithoutInitWarnsOnceAndWorksOn) {
@@ -71,8 +67,7 @@ TEST_F(FirstUse, WithoutInitWarnsOnceAndWorksOn) {
         operation.on->test = 0;
         recorder::clear();
         operation.run();
-        EXPECT_EQ(recorder::warnings(),
-                  warning("   you must call *_Init() first", operation.type, "no name"));
+        EXPECT_EQ(recorder::warnings(), first_use_warning(operation.type));
         EXPECT_EQ(operation.on->test, 2);
         EXPECT_NE(recorder::text(recorder::kDraw | recorder::kReport), recorder::warnings()); // it went on
         recorder::clear();
@@ -90,7 +85,7 @@ TEST_F(FirstUse, OfANamedObjectSpeaksOfBadData) {
         recorder::clear();
         operation.run();
         EXPECT_EQ(recorder::warnings(),
-                  warning("   bad data in device's structure", operation.type, "Title"));
+                  first_use_warning(operation.type, "Title", "bad data in device's structure"));
         EXPECT_EQ(operation.on->test, 2);
     }
 }
@@ -110,8 +105,7 @@ TEST_F(FirstUse, IsQuietAfterInit) {
 
 TEST_F(FirstUse, WarningStandsBetweenTheTracesOfItsOperation) {
     const std::string lines = recorded(recorder::kReport, [&] { box.Read(); });
-    EXPECT_EQ(lines, "[90000029] >>> in  Lib_Brask: Boxs::Read(no name)\n" +
-                         warning("   you must call *_Init() first", "Box::Read", "no name") +
+    EXPECT_EQ(lines, "[90000029] >>> in  Lib_Brask: Boxs::Read(no name)\n" + first_use_warning("Box::Read") +
                          "[90000029] <<< out Lib_Brask: Boxs::Read()\n");
 }
 
@@ -149,21 +143,17 @@ struct NoWindow : Protocol {
 };
 
 TEST_F(NoWindow, WarnsAtEveryInit) {
-    const auto warning = [](const std::string& type, const std::string& name) {
-        return "[90000021] Tools: WARNING ! \n[90000021]    you must provide a window\n[90000021]    type: " +
-               type + "   name: " + name + "\n";
-    };
     for (int round = 0; round < 2; ++round) {
         box.Init(nullptr);
-        EXPECT_EQ(recorder::warnings(), warning("Boxs::Init", round ? "Title" : "no name"));
+        EXPECT_EQ(recorder::warnings(), window_warning("Boxs::Init", round ? "Title" : "no name"));
         EXPECT_EQ(recorder::exit_tag("Boxs::Init"), "!wnd");
         recorder::clear();
         label.Init(nullptr);
-        EXPECT_EQ(recorder::warnings(), warning("Labels::Init", round ? "Title" : "no name"));
+        EXPECT_EQ(recorder::warnings(), window_warning("Labels::Init", round ? "Title" : "no name"));
         EXPECT_EQ(recorder::exit_tag("Labels::Init"), "!wnd");
         recorder::clear();
         button.Init(nullptr);
-        EXPECT_EQ(recorder::warnings(), warning("Buttons::Init", round ? "Title" : "no name"));
+        EXPECT_EQ(recorder::warnings(), window_warning("Buttons::Init", round ? "Title" : "no name"));
         EXPECT_EQ(recorder::exit_tag("Buttons::Init"), "!wnd");
         recorder::clear();
         for (Tools* control : all())

@@ -1,35 +1,17 @@
-#include <brask/sliders.h>
-
-#include "expect.h"
+#include "track_fixture.h"
 
 // What a slider paints.
 
 namespace {
 
-struct SliderPaint : Recorded {
-    Sliders slider;
+struct SliderPaint : Track {
     void SetUp() override {
-        Recorded::SetUp();
-        BORDER = 3, SPACE = 6, CURSEUR = 16;
-        slider.Pos_X = 10, slider.Pos_Y = 20;
-        slider.Val_Max = 100;
         slider.Cur_Value = 50;
-        slider.Larg = 10;
-        lay(0);
+        Track::SetUp();
     }
-    void lay(DWORD flag) {
-        slider.Flag = flag;
-        slider.Dim_X = flag & OUTIL_VERTICAL ? 20 : 161;
-        slider.Dim_Y = flag & OUTIL_VERTICAL ? 161 : 20;
-        slider.Init(recorder::window());
-        recorder::pointer(0, 0);
-        recorder::clear();
-    }
-    int right() { return 10 + slider.Dim_X; }
-    int top() { return 20 + slider.Dim_Y; }
 
     // --- The steps, by calls of the base ---
-    void frame() { slider.Cadre(1, 1, slider.Border >= 2 ? 2 : 1, 10, right(), 20, top()); }
+    void frame() { Track::frame(slider.Border >= 2 ? 2 : 1); }
     void face(int on, const DWORD* image) {
         slider.Fill_Select(on, reinterpret_cast<const char*>(image), slider.Flag, slider.Border + 2, 10,
                            right(), 20, top());
@@ -39,40 +21,26 @@ struct SliderPaint : Recorded {
         for (const int dir : {first, first + 1})
             slider.Arrow(dir, slider.Border + 2, 20, 10, slider.Dim_X, 20, slider.Dim_Y);
     }
-    void line(const char* text) { recorder::note(recorder::kDraw, text); }
-    void stroke(const char* color, std::initializer_list<POINT> points) {
-        line(color);
-        bool first = true;
-        for (const POINT& p : points) {
-            char text[64];
-            std::snprintf(text, sizeof text, first ? "move2s(%d, %d)" : "draw2s(%d, %d, 0)",
-                          static_cast<int>(p.x), static_cast<int>(p.y));
-            line(text);
-            first = false;
-        }
-    }
     // In numbers: the thumb in the middle of the range, 70 pixels from the inner edge.
     void thumb() {
-        const char* const light = "Zeb_color(0xD8D8D8)";
-        const char* const dark = "Zeb_color(0x1)";
-        line("Zeb_setup(WND, \"Sliders::Cursor\")");
-        line("Zeb_color(0x6E6E6E)");
-        if (slider.Flag & OUTIL_VERTICAL) {
-            line("draw_fill_rectangle(14, 111, 27, 92)");
-            stroke(light, {{13, 92}, {13, 111}, {26, 111}});
-            stroke(light, {{14, 101}, {26, 101}});
-            stroke(dark, {{14, 92}, {27, 92}, {27, 111}});
-            stroke(dark, {{15, 93}, {26, 93}, {26, 110}});
-            stroke(dark, {{14, 102}, {27, 102}});
-        } else {
-            line("draw_fill_rectangle(82, 36, 100, 23)");
-            stroke(light, {{81, 23}, {81, 37}, {99, 37}});
-            stroke(light, {{91, 24}, {91, 37}});
-            stroke(dark, {{82, 23}, {100, 23}, {100, 37}});
-            stroke(dark, {{83, 24}, {99, 24}, {99, 36}});
-            stroke(dark, {{90, 24}, {90, 36}});
-        }
-        line("Zeb_release()");
+        bracketed("Sliders::Cursor", [&] {
+            Zeb_color(0x6E6E6E);
+            if (vertical()) {
+                draw_fill_rectangle(14, 111, 27, 92);
+                line(0xD8D8D8, {{13, 92}, {13, 111}, {26, 111}});
+                line(0xD8D8D8, {{14, 101}, {26, 101}});
+                line(1, {{14, 92}, {27, 92}, {27, 111}});
+                line(1, {{15, 93}, {26, 93}, {26, 110}});
+                line(1, {{14, 102}, {27, 102}});
+            } else {
+                draw_fill_rectangle(82, 36, 100, 23);
+                line(0xD8D8D8, {{81, 23}, {81, 37}, {99, 37}});
+                line(0xD8D8D8, {{91, 24}, {91, 37}});
+                line(1, {{82, 23}, {100, 23}, {100, 37}});
+                line(1, {{83, 24}, {99, 24}, {99, 36}});
+                line(1, {{90, 24}, {90, 36}});
+            }
+        });
     }
     void cursor() {
         arrows();
@@ -80,15 +48,13 @@ struct SliderPaint : Recorded {
     }
 };
 
-constexpr DWORD kDirections[] = {0, OUTIL_VERTICAL};
-
 TEST_F(SliderPaint, DrawPaintsFaceFrameArrowsThumb) {
-    for (const DWORD direction : kDirections) {
+    for (const DWORD direction : kAxes) {
         lay(direction);
         slider.select = 1;
         EXPECT_EQ(everything([&] { slider.Draw(); }), everything([&] {
                       trace_in("Sliders::Draw", "no name");
-                      slider.Fill(slider.Flag, 10, right(), 20, top());
+                      ground();
                       frame();
                       cursor();
                       trace_out("Sliders::Draw", "");
@@ -104,7 +70,7 @@ TEST_F(SliderPaint, DrawLaysTheHostsSurfacesBySelect) {
     slider.Held = 1;
     EXPECT_EQ(everything([&] { slider.Draw(); }), everything([&] {
                   trace_in("Sliders::Draw", "no name");
-                  slider.Fill(slider.Flag, 10, right(), 20, top());
+                  ground();
                   frame();
                   trace_in("Sliders::Select", "no name");
                   read_pointer("Sliders::Select");
@@ -130,7 +96,7 @@ TEST_F(SliderPaint, HiddenAndOutlined) {
     slider.Flag = GRAPH_OUTLINE;
     EXPECT_EQ(everything([&] { slider.Draw(); }), everything([&] {
                   trace_in("Sliders::Draw", "no name");
-                  slider.Cadre_Outline(10, 171, 20, 40);
+                  outline();
                   trace_out("Sliders::Draw", "GRAPH_OUTLINE");
               }));
 }
@@ -140,7 +106,7 @@ TEST_F(SliderPaint, AdjustOfAnOutlinedOneGoesOn) {
     slider.Flag = GRAPH_OUTLINE;
     EXPECT_EQ(everything([&] { slider.Adjust(); }), everything([&] {
                   trace_in("Sliders::Adjust", "no name");
-                  slider.Cadre_Outline(10, 171, 20, 40);
+                  outline();
                   face(0, nullptr);
                   frame();
                   trace_out("Sliders::Adjust", "");
@@ -148,7 +114,7 @@ TEST_F(SliderPaint, AdjustOfAnOutlinedOneGoesOn) {
 }
 
 TEST_F(SliderPaint, AdjustKeepsTheHoverLook) {
-    for (const DWORD direction : kDirections)
+    for (const DWORD direction : kAxes)
         for (const int look : {0, 1, 2}) {
             lay(direction);
             slider.select = look;

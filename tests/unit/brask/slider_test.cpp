@@ -1,47 +1,16 @@
-#include <cmath>
-
-#include <brask/sliders.h>
-
-#include "expect.h"
+#include "track_fixture.h"
 
 // A slider: its range, its thumb, and what a pointer event does.
 
 namespace {
 
-// Along the X axis a track of 161 by 20, with 101 places for the thumb; along the Y axis the same one
-// upright.
-struct Slider : Recorded {
-    Sliders slider;
-    void SetUp() override {
-        Recorded::SetUp();
-        BORDER = 3, SPACE = 6, CURSEUR = 16;
-        slider.Pos_X = 10, slider.Pos_Y = 20;
-        slider.Val_Max = 100;
-        slider.Larg = 10;
-        lay(0);
-    }
-    void lay(DWORD flag) {
-        slider.Flag = flag;
-        slider.Dim_X = flag & OUTIL_VERTICAL ? 20 : 161;
-        slider.Dim_Y = flag & OUTIL_VERTICAL ? 161 : 20;
-        slider.Init(recorder::window());
-        slider.select = 0;
-        at(-50);
-        recorder::clear();
-    }
-    // The pointer, so far along the track.
-    void at(int offset) {
-        if (slider.Flag & OUTIL_VERTICAL)
-            recorder::pointer(20, 20 + offset);
-        else
-            recorder::pointer(10 + offset, 30);
-    }
+struct Slider : Track {
     int select(int mode) {
         recorder::clear();
         return slider.Select(mode);
     }
     float read(int offset) {
-        at(offset);
+        along(offset);
         return slider.Read();
     }
     std::string tag(const char* operation) {
@@ -54,12 +23,10 @@ struct Slider : Recorded {
     }
 };
 
-constexpr DWORD kDirections[] = {0, OUTIL_VERTICAL};
-
 // --- Init ---
 
 TEST_F(Slider, TableRunsOverTheRangeInEvenSteps) {
-    for (const DWORD direction : kDirections) {
+    for (const DWORD direction : kAxes) {
         lay(direction);
         ASSERT_EQ(slider.Table_Size, 101);
         for (int i = 0; i <= 100; i++)
@@ -165,7 +132,7 @@ TEST_F(Slider, InitHasItsWaysOut) {
 // --- Read ---
 
 TEST_F(Slider, ReadHoldsTheThumbByItsMiddle) {
-    for (const DWORD direction : kDirections) {
+    for (const DWORD direction : kAxes) {
         lay(direction);
         slider.Cur_Value = 33;
         EXPECT_EQ(read(30), 0.0f);
@@ -231,7 +198,7 @@ TEST_F(Slider, SelectFollowsThePointer) {
                                         << " select " << row.before << " mode " << row.mode);
         slider.Flag = row.flag;
         slider.select = row.before;
-        at(row.offset);
+        along(row.offset);
         EXPECT_EQ(select(row.mode), row.answer);
         EXPECT_EQ(slider.select, row.after);
         EXPECT_EQ(has_painted(), row.paints);
@@ -240,9 +207,9 @@ TEST_F(Slider, SelectFollowsThePointer) {
 }
 
 TEST_F(Slider, CaptureHoldsFromThePressOn) {
-    for (const DWORD direction : kDirections) {
+    for (const DWORD direction : kAxes) {
         lay(direction | OUTIL_CAPTURE);
-        at(80);
+        along(80);
         EXPECT_EQ(select(1), 0); // not pressed here
         EXPECT_EQ(select(2), 1);
         EXPECT_EQ(slider.Held, 1);
@@ -268,7 +235,7 @@ TEST_F(Slider, ArrowsMoveTheValueByAStep) {
         {false, 142, 50, 53}, {false, 5, 2, 0},    {false, 150, 98, 100}, {true, 0, 50, 53},
         {true, 142, 50, 47},  {true, 5, 98, 100},  {true, 150, 2, 0},
     };
-    for (const DWORD direction : kDirections)
+    for (const DWORD direction : kAxes)
         for (const Press& row : rows) {
             SCOPED_TRACE(testing::Message() << row.reverse << " at " << row.offset << " of " << row.value);
             lay(direction | (row.reverse ? OUTIL_REVERSE : 0));
@@ -276,7 +243,7 @@ TEST_F(Slider, ArrowsMoveTheValueByAStep) {
             slider.Val_Max = row.reverse ? 0.0f : 100.0f;
             slider.Step = 3;
             slider.Cur_Value = row.value;
-            at(row.offset);
+            along(row.offset);
             EXPECT_EQ(select(1), 1);
             EXPECT_EQ(slider.Cur_Value, row.value); // only a press does
             EXPECT_EQ(select(2), 1);
@@ -287,7 +254,7 @@ TEST_F(Slider, ArrowsMoveTheValueByAStep) {
 TEST_F(Slider, ArrowsGoByTheirOwnLength) {
     slider.Cur_Value = 50;
     slider.Arrow_Len = 40;
-    at(39);
+    along(39);
     select(2);
     EXPECT_EQ(slider.Cur_Value, 49.0f);
     slider.Flag = OUTIL_DISABLE;
@@ -384,21 +351,12 @@ TEST_F(Slider, DeselectGivesTheNormalLookBackAndKeepsSelect) {
 }
 
 TEST_F(Slider, EveryOperationWarnsOnceBeforeInit) {
-    const std::pair<const char*, void (*)(Sliders&)> operations[] = {
-        {"Adjust", [](Sliders& s) { s.Adjust(); }},  {"Deselect", [](Sliders& s) { s.Deselect(); }},
-        {"Draw", [](Sliders& s) { s.Draw(); }},      {"Read", [](Sliders& s) { s.Read(); }},
-        {"Scroll", [](Sliders& s) { s.Scroll(1); }}, {"Select", [](Sliders& s) { s.Select(1); }},
-    };
-    for (const auto& operation : operations) {
-        Sliders fresh;
-        recorder::clear();
-        operation.second(fresh);
-        EXPECT_NE(recorder::warnings().find(std::string("type: Sliders::") + operation.first),
-                  std::string::npos);
-        recorder::clear();
-        operation.second(fresh);
-        EXPECT_EQ(recorder::warnings(), "");
-    }
+    expect_first_use<Sliders>({{"Sliders::Adjust", [](Sliders& s) { s.Adjust(); }},
+                               {"Sliders::Deselect", [](Sliders& s) { s.Deselect(); }},
+                               {"Sliders::Draw", [](Sliders& s) { s.Draw(); }},
+                               {"Sliders::Read", [](Sliders& s) { s.Read(); }},
+                               {"Sliders::Scroll", [](Sliders& s) { s.Scroll(1); }},
+                               {"Sliders::Select", [](Sliders& s) { s.Select(1); }}});
 }
 
 } // namespace

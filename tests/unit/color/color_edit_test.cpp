@@ -41,7 +41,7 @@ TEST_F(Editors, WaysOutOfDraw) {
     fresh.Flag = 0;
     fresh.Draw();
     EXPECT_EQ(recorder::exit_tag("Color_Edit::Draw"), "<0");
-    EXPECT_EQ(recorder::warnings(), warning("Color_Edit::Draw"));
+    EXPECT_EQ(recorder::warnings(), first_use_warning("Color_Edit::Draw"));
 
     Color_Edit editor;
     lay(editor, GRAPH_OUTLINE | COLOR_MODE_BUTTON, 2);
@@ -252,7 +252,7 @@ TEST_F(Editors, FirstUseWarnsOnce) {
         recorder::clear();
         row.use(fresh);
         row.use(fresh);
-        EXPECT_EQ(recorder::warnings(), warning(row.type));
+        EXPECT_EQ(recorder::warnings(), first_use_warning(row.type));
     }
 }
 

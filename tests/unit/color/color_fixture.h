@@ -66,12 +66,6 @@ struct Editors : Recorded {
         EXPECT_EQ(part.Dim_X, dx);
         EXPECT_EQ(part.Dim_Y, dy);
     }
-    static std::string warning(const char* type) {
-        return std::string("[80000001] Tools: WARNING ! \n"
-                           "[80000001]    you must call *_Init() first\n"
-                           "[80000001]    type: ") +
-               type + "   name: no name\\n\n";
-    }
 };
 
 #endif

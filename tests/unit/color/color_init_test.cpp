@@ -14,9 +14,7 @@ TEST_F(Editors, InitStopsWithoutSizeOrWindow) {
     editor.Dim_X = editor.Dim_Y = 100;
     recorder::clear();
     editor.Init(nullptr);
-    EXPECT_EQ(recorder::text(recorder::kReport), "[90000021] Tools: WARNING ! \n"
-                                                 "[90000021]    you must provide a window\n"
-                                                 "[90000021]    type: Color_Edit::Init   name: no name\n");
+    EXPECT_EQ(recorder::text(recorder::kReport), window_warning("Color_Edit::Init"));
     EXPECT_EQ(editor.Swatch_Width, 0);
 }
 

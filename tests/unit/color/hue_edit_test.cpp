@@ -39,9 +39,7 @@ TEST_F(Editors, HueInit) {
     recorder::clear();
     editor.Init(nullptr);
     EXPECT_EQ(recorder::exit_tag("Hue_Edit::Init"), "!wnd");
-    EXPECT_EQ(recorder::warnings(), "[90000021] Tools: WARNING ! \n"
-                                    "[90000021]    you must provide a window\n"
-                                    "[90000021]    type: Hue_Edit::Init   name: no name\n");
+    EXPECT_EQ(recorder::warnings(), window_warning("Hue_Edit::Init"));
     lay(editor, 0, 2, 0);
     EXPECT_EQ(editor.Cur_Value, 0xFF0000FFu) << "full red for nothing";
     EXPECT_EQ(editor.Old_Value, 0xFF0000FFu);
@@ -238,7 +236,7 @@ TEST_F(Editors, HueFirstUseAndSize) {
         recorder::clear();
         row.use(fresh);
         row.use(fresh);
-        EXPECT_EQ(recorder::warnings(), warning(row.type));
+        EXPECT_EQ(recorder::warnings(), first_use_warning(row.type));
         if (row.type != std::string("Hue_Edit::Scroll")) {
             EXPECT_EQ(recorder::exit_tag(row.type), "<0");
         }

@@ -39,6 +39,17 @@ struct Console : Recorded {
         console.Read(L"%ls", text ? text : L"");
         recorder::clear();
     }
+    // So many lines, written without a note.
+    void fill(int count) {
+        recorder::listen(recorder::kReport);
+        for (int i = 0; i < count; i++)
+            console.Write(L"line %d", i);
+        recorder::listen(recorder::kEverything);
+        recorder::clear();
+    }
+    std::string tag(const char* operation) const {
+        return recorder::exit_tag(std::string("Texts::") + operation);
+    }
     void outside() { recorder::pointer(0, 0); }
     void inside() { recorder::pointer(250, 300); }
 

@@ -115,9 +115,7 @@ TEST_F(Reading, NeedsASizeAndWarnsOnceOfAMissingInit) {
     console.Dim_Y = 0;
     console.Read("text");
     EXPECT_EQ(recorder::exit_tag("Texts::Read"), "<0");
-    EXPECT_EQ(recorder::warnings(), "[80000001] Tools: WARNING ! \n"
-                                    "[80000001]    you must call *_Init() first\n"
-                                    "[80000001]    type: Text::Read   name: no name\\n\n");
+    EXPECT_EQ(recorder::warnings(), first_use_warning("Text::Read"));
     EXPECT_EQ(console.flag_read, 0);
     EXPECT_EQ(console.Edit_Line[0], 0);
     EXPECT_EQ(console.Edit_Pos, 3);
@@ -158,9 +156,7 @@ TEST_F(Reading, RefusedKeysPaintNothing) {
 
 TEST_F(Reading, AKeyBeforeInitWarnsAndIsRefused) {
     console.Input('x');
-    EXPECT_EQ(recorder::warnings(), "[80000001] Tools: WARNING ! \n"
-                                    "[80000001]    you must call *_Init() first\n"
-                                    "[80000001]    type: Text::Input   name: no name\\n\n");
+    EXPECT_EQ(recorder::warnings(), first_use_warning("Text::Input"));
     EXPECT_EQ(recorder::exit_tag("Texts::Input"), "! flag_read");
 }
 

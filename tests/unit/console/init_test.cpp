@@ -8,8 +8,6 @@ using Strings = std::vector<std::wstring>;
 
 namespace {
 
-std::string tag(const char* operation) { return recorder::exit_tag(std::string("Texts::") + operation); }
-
 std::vector<int> strip_of(const Texts& console) {
     return {console.Read_X1, console.Read_X2, console.Read_Y1, console.Read_Y2};
 }

@@ -5,17 +5,9 @@
 using Strings = std::vector<std::wstring>;
 
 struct Scrolling : Console {
-    void fill(int count) {
-        recorder::listen(recorder::kReport);
-        for (int i = 0; i < count; i++)
-            console.Write(L"line %d", i);
-        recorder::listen(recorder::kEverything);
-        recorder::clear();
-    }
     static std::vector<int> place(const Sliders& slider) {
         return {slider.Pos_X, slider.Pos_Y, slider.Dim_X, slider.Dim_Y};
     }
-    std::string tag(const char* operation) { return recorder::exit_tag(std::string("Texts::") + operation); }
 };
 
 struct Rescale : Scrolling {};

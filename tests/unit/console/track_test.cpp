@@ -3,14 +3,6 @@
 #include "console_fixture.h"
 
 struct Tracking : Console {
-    std::string tag(const char* operation) { return recorder::exit_tag(std::string("Texts::") + operation); }
-    void fill(int count) {
-        recorder::listen(recorder::kReport);
-        for (int i = 0; i < count; i++)
-            console.Write(L"line %d", i);
-        recorder::listen(recorder::kEverything);
-        recorder::clear();
-    }
     bool echoed(const std::string& calls) { return calls.find("Texts::Read_Echo") != std::string::npos; }
     bool rewritten(const std::string& calls) { return calls.find("Texts::Re_Write") != std::string::npos; }
 };

@@ -4,12 +4,6 @@
 
 using Strings = std::vector<std::wstring>;
 
-namespace {
-
-std::string tag(const char* operation) { return recorder::exit_tag(std::string("Texts::") + operation); }
-
-} // namespace
-
 struct Write : Console {};
 
 TEST_F(Write, ALineFeedBeginsAFurtherLine) {

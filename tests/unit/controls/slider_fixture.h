@@ -1,68 +1,30 @@
 #ifndef TESTS_SLIDER_FIXTURE_H
 #define TESTS_SLIDER_FIXTURE_H
 
-#include <utility>
-#include <vector>
-
 #include <brask/fenn.h>
 #include <brask/sliders.h>
 
-#include "unit/brask/expect.h"
+#include "range_bench.h"
 
-// A slider at 10, 20, along either axis, and its steps told by calls of the base and of the drawing contract.
-struct Slider : Recorded {
-    static constexpr int kX = 10, kY = 20;
-    Sliders slider;
+// A slider, and its steps told by calls of the base and of the drawing contract.
+struct Slider : Range_Bench<Sliders> {
+    Sliders& slider = bar;
 
     void SetUp() override {
-        Recorded::SetUp();
-        BORDER = 3, SPACE = 6, CURSEUR = 16;
+        Range_Bench::SetUp();
         lay(0, 200, 16);
     }
-    void TearDown() override {
-        BORDER = 3, SPACE = 6, CURSEUR = 16;
-        Recorded::TearDown();
-    }
-
-    // So long and so thick, along the axis that the flag tells, values from 0 to 100; Init done and
-    // forgotten.
+    // Init done and forgotten.
     void lay(DWORD flag, int length, int thick, int larg = 20, int border = 0) {
-        slider.Flag = flag;
-        slider.Pos_X = kX, slider.Pos_Y = kY;
-        slider.Dim_X = vertical() ? thick : length;
-        slider.Dim_Y = vertical() ? length : thick;
-        slider.Larg = larg;
-        slider.Border = border;
-        slider.Val_Min = 0, slider.Val_Max = 100;
-        if (flag & OUTIL_REVERSE) std::swap(slider.Val_Min, slider.Val_Max);
-        slider.Init(recorder::window());
-        outside();
-        recorder::clear();
-    }
-    bool vertical() const { return (slider.Flag & OUTIL_VERTICAL) != 0; }
-    int bevel() const { return slider.Border ? slider.Border : BORDER; }
-    int right() const { return slider.Pos_X + slider.Dim_X; }
-    int top() const { return slider.Pos_Y + slider.Dim_Y; }
-
-    // --- The pointer: so far along the track, in the middle of its thickness ---
-    void along(int offset) {
-        vertical() ? recorder::pointer(kX + slider.Dim_X / 2, kY + offset)
-                   : recorder::pointer(kX + offset, kY + slider.Dim_Y / 2);
+        place(flag, length, thick, larg, border);
+        init();
     }
     // As far along, but beside the slider.
     void beside(int offset) {
         vertical() ? recorder::pointer(kX - 50, kY + offset) : recorder::pointer(kX + offset, kY - 50);
     }
-    void inside() { along(vertical() ? slider.Dim_Y / 2 : slider.Dim_X / 2); }
-    void outside() { recorder::pointer(-500, -500); }
 
     // --- The steps ---
-    using Points = std::vector<std::pair<int, int>>;
-    static void line(unsigned long color, const Points& points) {
-        Zeb_color(color);
-        for (std::size_t i = 0; i < points.size(); ++i)
-            i ? draw2s(points[i].first, points[i].second, 0) : move2s(points[0].first, points[0].second);
-    }
     void vertical_thumb(int p) const {
         const int h = slider.Larg, l = slider.Pos_X + 2 + bevel(), r = right() - 2 - bevel(),
                   B = slider.Pos_Y + 1 + bevel() + p, T = B + 2 * h - 1;
@@ -86,12 +48,7 @@ struct Slider : Recorded {
         line(1, {{l + h - 1, B + 1}, {l + h - 1, T - 1}});
     }
     void thumb(int p) const {
-        Zeb_setup(slider.Wnd, "Sliders::Cursor");
-        const bool clip = slider.Clip_Dim_X != 0;
-        if (clip) Zeb_set_clip(slider.Clip_X, slider.Clip_Y, slider.Clip_Dim_X, slider.Clip_Dim_Y);
-        vertical() ? vertical_thumb(p) : horizontal_thumb(p);
-        if (clip) Zeb_reset_clip();
-        Zeb_release();
+        bracketed("Sliders::Cursor", [&] { vertical() ? vertical_thumb(p) : horizontal_thumb(p); });
     }
     void arrows(int length) {
         for (const int kind : {vertical() ? 2 : 0, vertical() ? 3 : 1})
@@ -99,8 +56,6 @@ struct Slider : Recorded {
     }
     // The value 0 of 0 to 100: the thumb stands at the start, past an arrow as long as the slider is thick.
     void cursor() { arrows(16), thumb(16); }
-    void frame(int width = 1) { slider.Cadre(1, 1, width, kX, right(), kY, top()); }
-    void outline() { slider.Cadre_Outline(kX, right(), kY, top()); }
     void face(bool on, const DWORD* image) {
         slider.Fill_Select(on, reinterpret_cast<const char*>(image), slider.Flag, bevel() + 2, kX, right(),
                            kY, top());
@@ -123,7 +78,5 @@ struct Slider : Recorded {
         EXPECT_EQ(slider.select, select_after);
     }
 };
-
-const DWORD kAxes[] = {0, OUTIL_VERTICAL};
 
 #endif

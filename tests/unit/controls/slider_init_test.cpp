@@ -12,24 +12,8 @@ constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInf = std::numeric_limits<float>::infinity();
 
 TEST_F(Slider, BeginsAllZeroAndTracesItsLife) {
-    const std::string life = recorded(recorder::kReport, [] {
-        Sliders fresh;
-        EXPECT_EQ(fresh.Cur_Value, 0);
-        EXPECT_EQ(fresh.Val_Min, 0);
-        EXPECT_EQ(fresh.Val_Max, 0);
-        EXPECT_EQ(fresh.Step, 0);
-        EXPECT_EQ(
-            fresh.Larg | fresh.Arrow_Len | fresh.Reserved | fresh.select | fresh.Held | fresh.Table_Size, 0);
-        for (const float value : fresh.Value_Table)
-            EXPECT_EQ(value, 0);
-        EXPECT_EQ(fresh.W_Name, nullptr);
-        EXPECT_EQ(fresh.test, 0);
-    });
-    EXPECT_EQ(life, recorded(recorder::kReport, [] {
-                  for (const char* operation :
-                       {"Tools::Tools", "Sliders::Sliders", "Sliders::~Sliders", "Tools::~Tools"})
-                      trace_in(operation, ""), trace_out(operation, "");
-              }));
+    EXPECT_EQ(made_all_zero<Sliders>(), everything([] { begins("Sliders"); }));
+    EXPECT_EQ(everything([] { Sliders fresh; }), everything([] { begins("Sliders"), ends("Sliders"); }));
 }
 
 TEST_F(Slider, CopiesEverythingTheTableIncluded) {
@@ -83,9 +67,7 @@ TEST_F(Slider, InitWithoutAWindowWarnsEachTime) {
     for (int time = 0; time < 2; ++time) {
         recorder::clear();
         lost.Init(nullptr);
-        EXPECT_EQ(recorder::warnings(), "[90000021] Tools: WARNING ! \n"
-                                        "[90000021]    you must provide a window\n"
-                                        "[90000021]    type: Sliders::Init   name: lost\n");
+        EXPECT_EQ(recorder::warnings(), window_warning("Sliders::Init", "lost"));
         EXPECT_EQ(recorder::exit_tag("Sliders::Init"), "!wnd");
     }
     EXPECT_EQ(lost.test, 5);

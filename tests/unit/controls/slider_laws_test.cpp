@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "laws/chance.h"
+#include "laws/laws.h"
 #include "slider_fixture.h"
 
 // Random operations on random fields, held against a small model of the protocol, and laws about pixels.
@@ -21,10 +21,6 @@ struct Model {
     int answer = 0; // of Select
     bool paints = false;
 };
-
-bool hits(const Sliders& s, POINT at) {
-    return at.x >= s.Region.left && at.x < s.Region.right && at.y >= s.Region.top && at.y < s.Region.bottom;
-}
 
 // What one Select leaves behind.
 Model after_select(const Sliders& s, Model before, int mode, POINT pointer) {
@@ -93,12 +89,6 @@ bool in_range(const Sliders& s) {
     return s.Cur_Value >= low && s.Cur_Value <= high;
 }
 
-bool painted_something() {
-    for (const recorder::Line& line : recorder::log())
-        if (line.kind == recorder::kDraw && line.text.rfind("draw", 0) == 0) return true;
-    return false;
-}
-
 struct SliderLaws : Recorded {
     static int any_int(Chance& chance) {
         return chance.one_in(3)
@@ -153,9 +143,7 @@ struct SliderLaws : Recorded {
 };
 
 TEST_F(SliderLaws, KeepsTheProtocolWithAnyFields) {
-    const unsigned seed = law_seed();
-    for (int round = 0; round < law_rounds(300) && !HasFailure(); ++round) {
-        Chance chance(seed + static_cast<unsigned>(round));
+    for_seeds(300, [&](Chance& chance) {
         Sliders slider;
         for (int step = 0; step < 60 && !HasFailure(); ++step) {
             for (unsigned changes = chance.below(4); changes > 0; --changes)
@@ -165,9 +153,8 @@ TEST_F(SliderLaws, KeepsTheProtocolWithAnyFields) {
             recorder::pointer(pointer.x, pointer.y);
             const Act act = static_cast<Act>(chance.below(static_cast<unsigned>(Act::kCount)));
             const int mode = chance.of({0, 1, 2, 3, 4, 18, 20, 33, -1, INT_MAX, INT_MIN});
-            SCOPED_TRACE(testing::Message()
-                         << "LAWS_SEED=" << seed << " round " << round << " step " << step << " act "
-                         << static_cast<int>(act) << " mode " << mode << " flag " << std::hex << slider.Flag);
+            SCOPED_TRACE(testing::Message() << "step " << step << " act " << static_cast<int>(act) << " mode "
+                                            << mode << " flag " << std::hex << slider.Flag);
             const Model expected = expected_of(slider, act, mode, pointer);
             recorder::clear();
             EXPECT_EQ(perform(slider, act, mode), expected.answer);
@@ -184,14 +171,12 @@ TEST_F(SliderLaws, KeepsTheProtocolWithAnyFields) {
                 EXPECT_LE(slider.Table_Size, 4096);
             }
         }
-    }
+    });
 }
 
 // A drag moves the value the way the pointer goes, and never past an end.
 TEST_F(SliderLaws, DraggingIsMonotonous) {
-    const unsigned seed = law_seed();
-    for (int round = 0; round < law_rounds(15) && !HasFailure(); ++round) {
-        Chance chance(seed + static_cast<unsigned>(round));
+    for_seeds(15, [&](Chance& chance) {
         Sliders slider;
         const int length = chance.between(80, 600);
         slider.Flag = OUTIL_CAPTURE | (chance.one_in(2) ? OUTIL_REVERSE : 0);
@@ -208,17 +193,15 @@ TEST_F(SliderLaws, DraggingIsMonotonous) {
             ASSERT_EQ(slider.Select(1), 1);
             slider.Cur_Value = slider.Read();
             slider.Adjust();
-            EXPECT_GE(sign * slider.Cur_Value, before)
-                << "LAWS_SEED=" << seed << " round " << round << " at " << x;
+            EXPECT_GE(sign * slider.Cur_Value, before) << "at " << x;
             EXPECT_LE(std::abs(slider.Cur_Value), 10);
             before = sign * slider.Cur_Value;
         }
         recorder::clear();
-    }
+    });
 }
 
-struct SliderPainting : Recorded {
-    static constexpr int kWidth = 140, kHeight = 140;
+struct SliderPainting : On_A_Picture<140, 140> {
     static void any_place(Sliders& s, Chance& chance) {
         static const DWORD kFlags[] = {OUTIL_DISABLE, OUTIL_VERTICAL, OUTIL_REVERSE, OUTIL_CAPTURE};
         for (const DWORD flag : kFlags)
@@ -234,7 +217,7 @@ struct SliderPainting : Recorded {
     }
     static void operate(Sliders& s, Chance& chance) {
         for (int i = 0; i < 8; ++i) {
-            recorder::pointer(chance.between(0, kWidth), chance.between(0, kHeight));
+            any_pointer(chance);
             const unsigned which = chance.below(5);
             if (which == 0) s.Draw();
             if (which == 1) s.Adjust();
@@ -244,56 +227,44 @@ struct SliderPainting : Recorded {
         }
     }
     template <typename Law>
-    void for_seeds(Law law) {
-        const unsigned seed = law_seed();
-        for (int round = 0; round < law_rounds(100) && !HasFailure(); ++round) {
-            SCOPED_TRACE(testing::Message() << "LAWS_SEED=" << seed << " round " << round);
-            Chance chance(seed + static_cast<unsigned>(round));
-            Picture picture(kWidth, kHeight);
-            recorder::paint_on(&picture);
+    void for_sliders(Law law) {
+        for_pictures(100, [&](Chance& chance) {
             Sliders slider;
             any_place(slider, chance);
-            law(chance, picture, slider);
-            recorder::paint_on(nullptr);
-            recorder::clear();
-        }
+            law(chance, slider);
+        });
     }
 };
 
 TEST_F(SliderPainting, StaysInside) {
-    for_seeds([](Chance& chance, Picture& picture, Sliders& s) {
+    for_sliders([this](Chance& chance, Sliders& s) {
         s.Init(recorder::window());
         operate(s, chance);
-        EXPECT_TRUE(picture.painted_only_in(s.Pos_X, s.Pos_Y, s.Pos_X + s.Dim_X, s.Pos_Y + s.Dim_Y));
+        EXPECT_TRUE(only_in(s));
     });
 }
 
 TEST_F(SliderPainting, StaysInsideTheClip) {
-    for_seeds([](Chance& chance, Picture& picture, Sliders& s) {
-        s.Clip_X = chance.between(1, 80), s.Clip_Y = chance.between(1, 80);
-        s.Clip_Dim_X = chance.between(1, 50), s.Clip_Dim_Y = chance.between(1, 50);
+    for_sliders([this](Chance& chance, Sliders& s) {
+        any_clip(s, chance, 80, 80, 50);
         s.Init(recorder::window());
         operate(s, chance);
-        EXPECT_TRUE(picture.painted_only_in(s.Clip_X, s.Clip_Y, s.Clip_X + s.Clip_Dim_X - 1,
-                                            s.Clip_Y + s.Clip_Dim_Y - 1));
+        EXPECT_TRUE(only_in_clip(s));
     });
 }
 
 TEST_F(SliderPainting, DrawCoversWhatStoodThere) {
-    for_seeds([](Chance& chance, Picture& picture, Sliders& s) {
+    for_sliders([this](Chance& chance, Sliders& s) {
         s.Init(recorder::window());
         s.Draw();
         operate(s, chance);
         s.Draw();
-        Picture fresh(kWidth, kHeight);
-        recorder::paint_on(&fresh);
-        s.Draw();
-        EXPECT_TRUE(picture == fresh);
+        EXPECT_TRUE(picture == apart([&] { s.Draw(); }));
     });
 }
 
 TEST_F(SliderPainting, AdjustEqualsDrawInsideTheFrameWhenNotTouched) {
-    for_seeds([](Chance& chance, Picture& picture, Sliders& s) {
+    for_sliders([this](Chance& chance, Sliders& s) {
         s.Init(recorder::window());
         s.Draw();
         s.Cur_Value = static_cast<float>(chance.between(0, 9));
@@ -306,7 +277,7 @@ TEST_F(SliderPainting, AdjustEqualsDrawInsideTheFrameWhenNotTouched) {
 }
 
 TEST_F(SliderPainting, HiddenPaintsNothing) {
-    for_seeds([](Chance& chance, Picture& picture, Sliders& s) {
+    for_sliders([this](Chance& chance, Sliders& s) {
         s.Flag |= OUTIL_INVISIBLE;
         s.Init(recorder::window());
         operate(s, chance);

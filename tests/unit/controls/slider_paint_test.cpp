@@ -11,61 +11,55 @@ namespace {
 
 TEST_F(Slider, HorizontalThumbToThePixel) {
     slider.Cur_Value = 50; // 126 pixels of play: 63 past the arrow
-    const std::string lines = painted([&] { slider.Draw(); });
-    const std::string expected = "Zeb_setup(WND, \"Sliders::Cursor\")\n"
-                                 "Zeb_color(0x6E6E6E)\n"
-                                 "draw_fill_rectangle(91, 32, 129, 23)\n"
-                                 "Zeb_color(0xD8D8D8)\n"
-                                 "move2s(90, 23)\n"
-                                 "draw2s(90, 33, 0)\n"
-                                 "draw2s(128, 33, 0)\n"
-                                 "Zeb_color(0xD8D8D8)\n"
-                                 "move2s(110, 24)\n"
-                                 "draw2s(110, 33, 0)\n"
-                                 "Zeb_color(0x1)\n"
-                                 "move2s(91, 23)\n"
-                                 "draw2s(129, 23, 0)\n"
-                                 "draw2s(129, 33, 0)\n"
-                                 "Zeb_color(0x1)\n"
-                                 "move2s(92, 24)\n"
-                                 "draw2s(128, 24, 0)\n"
-                                 "draw2s(128, 32, 0)\n"
-                                 "Zeb_color(0x1)\n"
-                                 "move2s(109, 24)\n"
-                                 "draw2s(109, 32, 0)\n"
-                                 "Zeb_release()\n";
-    ASSERT_GE(lines.size(), expected.size());
-    EXPECT_EQ(lines.substr(lines.size() - expected.size()), expected);
+    expect_drawn_last("Zeb_setup(WND, \"Sliders::Cursor\")\n"
+                      "Zeb_color(0x6E6E6E)\n"
+                      "draw_fill_rectangle(91, 32, 129, 23)\n"
+                      "Zeb_color(0xD8D8D8)\n"
+                      "move2s(90, 23)\n"
+                      "draw2s(90, 33, 0)\n"
+                      "draw2s(128, 33, 0)\n"
+                      "Zeb_color(0xD8D8D8)\n"
+                      "move2s(110, 24)\n"
+                      "draw2s(110, 33, 0)\n"
+                      "Zeb_color(0x1)\n"
+                      "move2s(91, 23)\n"
+                      "draw2s(129, 23, 0)\n"
+                      "draw2s(129, 33, 0)\n"
+                      "Zeb_color(0x1)\n"
+                      "move2s(92, 24)\n"
+                      "draw2s(128, 24, 0)\n"
+                      "draw2s(128, 32, 0)\n"
+                      "Zeb_color(0x1)\n"
+                      "move2s(109, 24)\n"
+                      "draw2s(109, 32, 0)\n"
+                      "Zeb_release()\n");
 }
 
 TEST_F(Slider, VerticalThumbToThePixel) {
     lay(OUTIL_VERTICAL, 200, 16);
     slider.Cur_Value = 50;
-    const std::string lines = painted([&] { slider.Draw(); });
-    const std::string expected = "Zeb_setup(WND, \"Sliders::Cursor\")\n"
-                                 "Zeb_color(0x6E6E6E)\n"
-                                 "draw_fill_rectangle(14, 140, 23, 101)\n"
-                                 "Zeb_color(0xD8D8D8)\n"
-                                 "move2s(13, 101)\n"
-                                 "draw2s(13, 140, 0)\n"
-                                 "draw2s(22, 140, 0)\n"
-                                 "Zeb_color(0xD8D8D8)\n"
-                                 "move2s(14, 120)\n"
-                                 "draw2s(22, 120, 0)\n"
-                                 "Zeb_color(0x1)\n"
-                                 "move2s(14, 101)\n"
-                                 "draw2s(23, 101, 0)\n"
-                                 "draw2s(23, 140, 0)\n"
-                                 "Zeb_color(0x1)\n"
-                                 "move2s(15, 102)\n"
-                                 "draw2s(22, 102, 0)\n"
-                                 "draw2s(22, 139, 0)\n"
-                                 "Zeb_color(0x1)\n"
-                                 "move2s(14, 121)\n"
-                                 "draw2s(23, 121, 0)\n"
-                                 "Zeb_release()\n";
-    ASSERT_GE(lines.size(), expected.size());
-    EXPECT_EQ(lines.substr(lines.size() - expected.size()), expected);
+    expect_drawn_last("Zeb_setup(WND, \"Sliders::Cursor\")\n"
+                      "Zeb_color(0x6E6E6E)\n"
+                      "draw_fill_rectangle(14, 140, 23, 101)\n"
+                      "Zeb_color(0xD8D8D8)\n"
+                      "move2s(13, 101)\n"
+                      "draw2s(13, 140, 0)\n"
+                      "draw2s(22, 140, 0)\n"
+                      "Zeb_color(0xD8D8D8)\n"
+                      "move2s(14, 120)\n"
+                      "draw2s(22, 120, 0)\n"
+                      "Zeb_color(0x1)\n"
+                      "move2s(14, 101)\n"
+                      "draw2s(23, 101, 0)\n"
+                      "draw2s(23, 140, 0)\n"
+                      "Zeb_color(0x1)\n"
+                      "move2s(15, 102)\n"
+                      "draw2s(22, 102, 0)\n"
+                      "draw2s(22, 139, 0)\n"
+                      "Zeb_color(0x1)\n"
+                      "move2s(14, 121)\n"
+                      "draw2s(23, 121, 0)\n"
+                      "Zeb_release()\n");
 }
 
 // Where the thumb stands for a value, in pixels from the inner edge.
@@ -97,7 +91,7 @@ TEST_F(Slider, ThumbStandsWhereItsValueIs) {
             slider.Val_Min = row.first, slider.Val_Max = row.last, slider.Cur_Value = row.value;
             slider.Color = Colors(170, 170, 170);
             EXPECT_EQ(painted([&] { slider.Draw(); }), painted([&] {
-                          slider.Fill(slider.Flag, kX, right(), kY, top());
+                          ground();
                           frame();
                           arrows(16);
                           thumb(row.offset);
@@ -120,7 +114,7 @@ TEST_F(Slider, DrawFillsFramesAndPutsTheThumbOn) {
                 slider.select = 2;
                 EXPECT_EQ(everything([&] { slider.Draw(); }), everything([&] {
                               trace_in("Sliders::Draw", "no name");
-                              slider.Fill(slider.Flag, kX, right(), kY, top());
+                              ground();
                               frame(row.frame);
                               cursor();
                               trace_out("Sliders::Draw", "");
@@ -147,15 +141,7 @@ TEST_F(Slider, ABorderWrittenAfterInitIsResolved) {
               }));
 }
 
-TEST_F(Slider, InvisibleDrawsNothingAndDoesNotWarn) {
-    Sliders hidden;
-    hidden.Flag = OUTIL_INVISIBLE;
-    EXPECT_EQ(everything([&] { hidden.Draw(); }), everything([&] {
-                  trace_in("Sliders::Draw", "no name");
-                  trace_out("Sliders::Draw", "OUTIL_INVISIBLE");
-              }));
-    EXPECT_EQ(hidden.test, 0);
-}
+TEST_F(Slider, InvisibleDrawsNothingAndDoesNotWarn) { expect_hidden_without_warning("Sliders"); }
 
 TEST_F(Slider, OutlineDrawsTheOutlineAlone) {
     for (const DWORD axis : kAxes) {
@@ -181,7 +167,7 @@ TEST_F(Slider, ArrowsAreAsLongAsTheFieldSaysOrAsFits) {
             slider.Arrow_Len = row.arrow_len;
             const bool room = row.length >= 2 * row.thick;
             EXPECT_EQ(painted([&] { slider.Draw(); }), painted([&] {
-                          slider.Fill(slider.Flag, kX, right(), kY, top());
+                          ground();
                           frame();
                           arrows(row.arrow);
                           if (room) thumb(row.thick);
@@ -208,7 +194,7 @@ TEST_F(Slider, EverythingObeysTheClip) {
         lay(axis, 200, 16);
         slider.Clip_X = 1, slider.Clip_Y = 2, slider.Clip_Dim_X = 3, slider.Clip_Dim_Y = 4;
         EXPECT_EQ(painted([&] { slider.Draw(); }), painted([&] {
-                      slider.Fill(slider.Flag, kX, right(), kY, top());
+                      ground();
                       frame();
                       cursor();
                   }));
@@ -231,7 +217,7 @@ TEST_F(Slider, SurfacesAreLaidBySelect) {
                 slider.select = over ? 1 : 2; // forgotten first, so that the face is painted
                 EXPECT_EQ(everything([&] { slider.Draw(); }), everything([&] {
                               trace_in("Sliders::Draw", "no name");
-                              slider.Fill(slider.Flag, kX, right(), kY, top());
+                              ground();
                               frame();
                               select(over, "0");
                               trace_out("Sliders::Draw", "");
@@ -262,23 +248,7 @@ TEST_F(Slider, ARepaintKeepsTheDrag) {
     }
 }
 
-TEST_F(Slider, ASurfaceOfAnotherSizeIsNotRead) {
-    slider.Alloc_Graph_Normal(1);
-    slider.Alloc_Graph_Select(1);
-    slider.Init(nullptr);
-    slider.Dim_X = 300;
-    for (const bool over : {false, true}) {
-        over ? inside() : outside();
-        EXPECT_EQ(painted([&] { slider.Draw(); }).find("draw_image"), std::string::npos);
-        EXPECT_EQ(painted([&] { slider.Adjust(); }).find("draw_image"), std::string::npos);
-    }
-    slider.Dim_X = 200;
-    EXPECT_NE(painted([&] { slider.Draw(); }).find("draw_image"), std::string::npos);
-    slider.Alloc_Graph_Normal(5); // no view on the block before is left
-    slider.Alloc_Graph_Select(6);
-    slider.Draw();
-    slider.Deselect();
-}
+TEST_F(Slider, ASurfaceOfAnotherSizeIsNotRead) { expect_no_surface_of_another_size(); }
 
 // --- Adjust ---
 
@@ -322,58 +292,17 @@ TEST_F(Slider, AdjustOfAnOutlineGoesOnWithoutAThumb) {
 
 // --- Sizes below 1, and the first use ---
 
-TEST_F(Slider, NoSizeIsNotThere) {
-    slider.select = 1, slider.Held = 1, slider.Cur_Value = 42;
-    for (const auto& size : {std::pair(0, 16), std::pair(200, 0), std::pair(-1, -1)}) {
-        slider.Dim_X = size.first, slider.Dim_Y = size.second;
-        recorder::clear();
-        slider.Draw();
-        slider.Adjust();
-        slider.Deselect();
-        EXPECT_EQ(slider.Select(2), 0);
-        EXPECT_EQ(slider.Select(KEY_QUERY), 0);
-        EXPECT_EQ(slider.Read(), 0);
-        EXPECT_EQ(slider.Scroll(1), 0);
-        slider.Larg = 20;
-        slider.Larg_Adjust(1, 2);
-        EXPECT_EQ(slider.Larg, 20);
-        EXPECT_EQ(recorder::exit_tag("Sliders::Draw"), "<0");
-        EXPECT_EQ(recorder::exit_tag("Sliders::Adjust"), "<0");
-        EXPECT_EQ(recorder::exit_tag("Sliders::Deselect"), "< 0");
-        EXPECT_EQ(recorder::exit_tag("Sliders::Select"), "<0");
-        EXPECT_EQ(recorder::exit_tag("Sliders::Read"), "< 0");
-        EXPECT_EQ(recorder::text(recorder::kDraw), "");
-    }
-    EXPECT_EQ(slider.Cur_Value, 42);
-    EXPECT_EQ(slider.Held, 1) << "the size stops Deselect first";
-}
+TEST_F(Slider, NoSizeIsNotThere) { expect_not_there_without_size("Sliders"); }
 
 TEST_F(Slider, FirstUseWarnsOnceWithTheOperationsName) {
-    struct {
-        const char* type;
-        void (*use)(Sliders&);
-    } const rows[] = {
+    expect_first_use<Sliders>({
         {"Sliders::Adjust", [](Sliders& s) { s.Adjust(); }},
         {"Sliders::Deselect", [](Sliders& s) { s.Deselect(); }},
         {"Sliders::Draw", [](Sliders& s) { s.Draw(); }},
         {"Sliders::Read", [](Sliders& s) { s.Read(); }},
         {"Sliders::Scroll", [](Sliders& s) { s.Scroll(1); }},
         {"Sliders::Select", [](Sliders& s) { s.Select(1); }},
-    };
-    for (const auto& row : rows)
-        for (const int size : {0, 40}) { // it comes before the size
-            Sliders fresh;
-            fresh.Dim_X = fresh.Dim_Y = size;
-            recorder::clear();
-            row.use(fresh);
-            EXPECT_EQ(recorder::warnings(), std::string("[80000001] Tools: WARNING ! \n"
-                                                        "[80000001]    you must call *_Init() first\n"
-                                                        "[80000001]    type: ") +
-                                                row.type + "   name: no name\\n\n");
-            EXPECT_EQ(fresh.test, 2);
-            row.use(fresh);
-            EXPECT_EQ(recorder::reports(0x80000001).size(), 3u);
-        }
+    });
     Sliders unnoticed;
     unnoticed.Dim_X = unnoticed.Dim_Y = 40;
     recorder::clear();

@@ -86,11 +86,4 @@ struct Check_List : Recorded {
     static constexpr unsigned long kBlack = 1, kHighlight = 0x6464E6, kOutline = 0xE64040;
 };
 
-inline std::size_t times(const std::string& text, const std::string& piece) {
-    std::size_t count = 0;
-    for (std::size_t at = text.find(piece); at != std::string::npos; at = text.find(piece, at + 1))
-        count++;
-    return count;
-}
-
 #endif

@@ -3,15 +3,11 @@
 
 #include <climits>
 
-#include "laws/chance.h"
+#include "laws/laws.h"
 #include "unit/brask/expect.h"
 
 // What laws about lists, check lists and tabs stand on. LAWS_SEED repeats a run, LAWS_ROUNDS lengthens it.
 
-inline bool hits(const Tools& control, POINT at) {
-    return at.x >= control.Region.left && at.x < control.Region.right && at.y >= control.Region.top &&
-           at.y < control.Region.bottom;
-}
 inline bool gone(const Tools& control) { return control.Dim_X < 1 || control.Dim_Y < 1; }
 inline bool faceless(const Tools& control) {
     return (control.Flag & (OUTIL_EMPTY | OUTIL_INVISIBLE | GRAPH_OUTLINE)) != 0;
@@ -20,23 +16,8 @@ inline bool covers(const Tools& part, POINT at) {
     return at.x >= part.Pos_X && at.x <= part.Pos_X + part.Dim_X && at.y >= part.Pos_Y &&
            at.y <= part.Pos_Y + part.Dim_Y;
 }
-inline bool painted_something() {
-    for (const recorder::Line& line : recorder::log())
-        if (line.kind == recorder::kDraw && line.text.rfind("draw", 0) == 0) return true;
-    return false;
-}
 
 struct Item_Laws : Recorded {
-    template <typename Run>
-    void for_seeds(int usual, Run run) {
-        const unsigned seed = law_seed();
-        for (int round = 0; round < law_rounds(usual) && !HasFailure(); ++round) {
-            SCOPED_TRACE(testing::Message() << "LAWS_SEED=" << seed << " round " << round);
-            Chance chance(seed + static_cast<unsigned>(round));
-            run(chance);
-            recorder::clear();
-        }
-    }
     static void place(Tools& control, Chance& chance) {
         static const DWORD kFlags[] = {OUTIL_INVISIBLE, OUTIL_DISABLE, OUTIL_EMPTY, GRAPH_OUTLINE,
                                        OUTIL_FLAT,      TEXT_LEFT,     BOX_INSET};

@@ -53,12 +53,4 @@ struct List : Recorded {
     }
 };
 
-// The items' own lines between the list's: those of an operation of the base on its own.
-inline std::size_t times(const std::string& text, const std::string& piece) {
-    std::size_t count = 0;
-    for (std::size_t at = text.find(piece); at != std::string::npos; at = text.find(piece, at + 1))
-        count++;
-    return count;
-}
-
 #endif

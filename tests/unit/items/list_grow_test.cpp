@@ -1,6 +1,4 @@
 #include <climits>
-#include <functional>
-#include <new>
 
 #include "list_fixture.h"
 #include "support/memory.h"
@@ -10,45 +8,22 @@
 namespace {
 
 TEST_F(List, BeginsWithAllFieldsZero) {
-    alignas(Lists) static unsigned char place[sizeof(Lists)];
-    std::fill(std::begin(place), std::end(place), 0xAA);
-    Lists* made = nullptr;
-    const std::string lines = everything([&] { made = new (place) Lists; });
-    for (const unsigned char byte : place)
-        ASSERT_EQ(byte, 0);
-    EXPECT_EQ(lines, everything([] {
-                  trace_in("Tools::Tools", "");
-                  trace_out("Tools::Tools", "");
-                  for (const char* part : {"Boxs::Boxs", "Sliders::Sliders"}) {
-                      trace_in("Tools::Tools", "");
-                      trace_out("Tools::Tools", "");
-                      trace_in(part, "");
-                      trace_out(part, "");
-                  }
-                  trace_in("Lists::Lists", "");
-                  trace_out("Lists::Lists", "");
+    EXPECT_EQ(made_all_zero<Lists>(), everything([] {
+                  life("Tools::Tools");
+                  begins("Boxs"), begins("Sliders");
+                  life("Lists::Lists");
               }));
-    made->~Lists();
 }
 
 TEST_F(List, EndsWithItsItemsThenSliderThenBox) {
     Lists* gone = new Lists;
     gone->Grow(2, 0);
     EXPECT_EQ(everything([&] { delete gone; }), everything([] {
-                  const auto ended = [](const char* what) {
-                      trace_in(what, "");
-                      trace_out(what, "");
-                      trace_in("Tools::~Tools", "");
-                      trace_out("Tools::~Tools", "");
-                  };
                   trace_in("Lists::~Lists", "");
-                  ended("Buttons::~Buttons");
-                  ended("Buttons::~Buttons");
+                  ends("Buttons"), ends("Buttons");
                   trace_out("Lists::~Lists", "");
-                  ended("Sliders::~Sliders");
-                  ended("Boxs::~Boxs");
-                  trace_in("Tools::~Tools", "");
-                  trace_out("Tools::~Tools", "");
+                  ends("Sliders"), ends("Boxs");
+                  life("Tools::~Tools");
               }));
 }
 
@@ -58,10 +33,7 @@ TEST_F(List, ANewItemHasTheClipOfTheFrameAndNothingElse) {
     list.Box.Clip_X = 1, list.Box.Clip_Y = 2, list.Box.Clip_Dim_X = 3, list.Box.Clip_Dim_Y = 4;
     list.Clip_X = 91, list.Clip_Dim_X = 93;
     list.Grow(1, 0);
-    EXPECT_EQ(item(0).Clip_X, 1);
-    EXPECT_EQ(item(0).Clip_Y, 2);
-    EXPECT_EQ(item(0).Clip_Dim_X, 3);
-    EXPECT_EQ(item(0).Clip_Dim_Y, 4);
+    EXPECT_EQ(clip_of(item(0)), (Rect{1, 2, 3, 4}));
     EXPECT_EQ(item(0).Wnd, nullptr);
     EXPECT_EQ(item(0).Dim_X, 0);
     EXPECT_EQ(item(0).W_Name, nullptr);
@@ -250,25 +222,19 @@ TEST_F(List, FieldsChangedBehindItsBackNeverHurt) {
 }
 
 TEST_F(List, OperationsBeforeInitWarnOnceByTheirName) {
-    const auto warned = [](const std::function<void(Lists&)>& operation) {
-        Lists fresh;
-        fresh.Dim_X = 50, fresh.Dim_Y = 50;
-        recorder::clear();
-        operation(fresh);
-        operation(fresh);
-        return recorder::warnings();
-    };
-    const auto warning = [](const std::string& type) {
-        return "[80000001] Tools: WARNING ! \n[80000001]    you must call *_Init() first\n[80000001]    "
-               "type: " +
-               type + "   name: no name\\n\n";
-    };
-    EXPECT_EQ(warned([](Lists& l) { l.Draw(); }), warning("List::Draw") + warning("Box::Draw"));
-    EXPECT_EQ(warned([](Lists& l) { l.Old_Value = 9, l.Adjust(); }), warning("List::Adjust"));
-    EXPECT_EQ(warned([](Lists& l) { l.Select(0); }), warning("List::Select"));
-    EXPECT_EQ(warned([](Lists& l) { l.Read(); }), warning("List::Read"));
-    EXPECT_EQ(warned([](Lists& l) { l.Scroll(1); }), warning("Lists::Scroll"));
-    EXPECT_EQ(warned([](Lists& l) { l.Deselect(); }), "");
+    expect_first_use<Lists>({{"List::Adjust", [](Lists& l) { l.Old_Value = 9, l.Adjust(); }},
+                             {"List::Select", [](Lists& l) { l.Select(0); }},
+                             {"List::Read", [](Lists& l) { l.Read(); }},
+                             {"Lists::Scroll", [](Lists& l) { l.Scroll(1); }}});
+    Lists fresh;
+    fresh.Dim_X = fresh.Dim_Y = 50;
+    recorder::clear();
+    fresh.Deselect();
+    EXPECT_EQ(recorder::warnings(), "");
+    for (int time = 0; time < 2; time++) {
+        fresh.Draw();
+        EXPECT_EQ(recorder::warnings(), first_use_warning("List::Draw") + first_use_warning("Box::Draw"));
+    }
 }
 
 TEST_F(List, AHundredThousandItemsWork) {

@@ -78,4 +78,23 @@ struct Spinner : Recorded {
     }
 };
 
+struct Tracked_Spinner : Spinner {
+    std::string selected(int mode, int answer) {
+        return everything([&] { EXPECT_EQ(spin.Select(mode), answer); });
+    }
+    // What one Select reports between its own lines.
+    template <typename Steps>
+    std::string select_told(const std::string& tag, Steps steps) {
+        return everything([&] {
+            trace_in("Selects::Select", name_of(spin));
+            read_pointer("Selects::Select");
+            steps();
+            trace_out("Selects::Select", tag);
+        });
+    }
+    std::string select_told(const std::string& tag) {
+        return select_told(tag, [] {});
+    }
+};
+
 #endif

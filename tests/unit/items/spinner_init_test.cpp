@@ -1,70 +1,33 @@
-#include <algorithm>
 #include <climits>
-#include <cstdlib>
-#include <new>
 
 #include <brask/fonts.h>
 
 #include "spinner_fixture.h"
 #include "support/memory.h"
 
-// A spinner's life, its choices, and where everything is laid.
+// A spinner's life, its choices, and what Init makes of its fields.
 
 namespace {
-
-struct Rect {
-    int x, y, width, height;
-};
-bool operator==(const Rect& a, const Rect& b) {
-    return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
-}
-void PrintTo(const Rect& r, std::ostream* out) {
-    *out << r.width << " by " << r.height << " at " << r.x << ", " << r.y;
-}
-Rect rect_of(const Tools& part) { return {part.Pos_X, part.Pos_Y, part.Dim_X, part.Dim_Y}; }
 
 // --- Life ---
 
 TEST_F(Spinner, BeginsWithAllFieldsZero) {
-    alignas(Selects) static unsigned char place[sizeof(Selects)];
-    std::fill(std::begin(place), std::end(place), 0xAA);
-    Selects* made = nullptr;
-    const std::string lines = everything([&] { made = new (place) Selects; });
-    for (const unsigned char byte : place)
-        ASSERT_EQ(byte, 0);
-    EXPECT_EQ(lines, everything([] {
-                  trace_in("Tools::Tools", "");
-                  trace_out("Tools::Tools", "");
-                  for (int part = 0; part < 2; part++) {
-                      trace_in("Tools::Tools", "");
-                      trace_out("Tools::Tools", "");
-                      trace_in("Boxs::Boxs", "");
-                      trace_out("Boxs::Boxs", "");
-                  }
-                  trace_in("Selects::Selects", "");
-                  trace_out("Selects::Selects", "");
+    EXPECT_EQ(made_all_zero<Selects>(), everything([] {
+                  life("Tools::Tools");
+                  begins("Boxs"), begins("Boxs");
+                  life("Selects::Selects");
               }));
-    made->~Selects();
 }
 
 TEST_F(Spinner, EndsWithItsChoicesThenZoneThenBox) {
     Selects* gone = new Selects;
     gone->Grow(2, 0);
     EXPECT_EQ(everything([&] { delete gone; }), everything([] {
-                  const auto ended = [](const char* what) {
-                      trace_in(what, "");
-                      trace_out(what, "");
-                      trace_in("Tools::~Tools", "");
-                      trace_out("Tools::~Tools", "");
-                  };
                   trace_in("Selects::~Selects", "");
-                  ended("Buttons::~Buttons");
-                  ended("Buttons::~Buttons");
+                  ends("Buttons"), ends("Buttons");
                   trace_out("Selects::~Selects", "");
-                  ended("Boxs::~Boxs");
-                  ended("Boxs::~Boxs");
-                  trace_in("Tools::~Tools", "");
-                  trace_out("Tools::~Tools", "");
+                  ends("Boxs"), ends("Boxs");
+                  life("Tools::~Tools");
               }));
 }
 
@@ -92,10 +55,7 @@ TEST_F(Spinner, ANewChoiceHasTheControlsClipAndNothingElse) {
     spin.Clip_X = 1, spin.Clip_Y = 2, spin.Clip_Dim_X = 3, spin.Clip_Dim_Y = 4;
     spin.Wnd = recorder::window();
     spin.Grow(1, 0);
-    EXPECT_EQ(item(0).Clip_X, 1);
-    EXPECT_EQ(item(0).Clip_Y, 2);
-    EXPECT_EQ(item(0).Clip_Dim_X, 3);
-    EXPECT_EQ(item(0).Clip_Dim_Y, 4);
+    EXPECT_EQ(clip_of(item(0)), (Rect{1, 2, 3, 4}));
     EXPECT_EQ(rect_of(item(0)), (Rect{0, 0, 0, 0}));
     EXPECT_EQ(item(0).Wnd, nullptr);
     EXPECT_EQ(item(0).W_Name, nullptr);
@@ -157,9 +117,7 @@ TEST_F(Spinner, InitStopsWhereItMust) {
     for (int time = 0; time < 2; time++) {
         recorder::clear();
         fresh.Init(nullptr);
-        EXPECT_EQ(recorder::warnings(), "[90000021] Tools: WARNING ! \n"
-                                        "[90000021]    you must provide a window\n"
-                                        "[90000021]    type: Selects::Init   name: no name\n");
+        EXPECT_EQ(recorder::warnings(), window_warning("Selects::Init"));
         EXPECT_EQ(recorder::exit_tag("Selects::Init"), "!wnd");
     }
     EXPECT_EQ(fresh.Region.right, 0) << "nothing is built";
@@ -221,10 +179,7 @@ TEST_F(Spinner, InitWithoutAWindowKeepsTheFramesFaces) {
 TEST_F(Spinner, InitSetsRegionAndTheDefaultColour) {
     horizontal(1);
     EXPECT_EQ(spin.Color_Get(), 0xAAAAAAu);
-    EXPECT_EQ(spin.Region.left, 100);
-    EXPECT_EQ(spin.Region.top, 200);
-    EXPECT_EQ(spin.Region.right, 301);
-    EXPECT_EQ(spin.Region.bottom, 231);
+    EXPECT_EQ(region_of(spin), (Rect{100, 200, 201, 31}));
     EXPECT_EQ(spin.select, 0);
     spin.Color = Colors(1, 2, 3);
     spin.select = 1;
@@ -245,10 +200,7 @@ TEST_F(Spinner, TheBoxHasWhatBelongsToTheFrame) {
     const Boxs& box = spin.Box;
     EXPECT_EQ(box.Flag, (0x7771u & ~OUTIL_EMPTY) | OUTIL_DISABLE);
     EXPECT_EQ(rect_of(box), (Rect{100, 200, 200, 30}));
-    EXPECT_EQ(box.Clip_X, 1);
-    EXPECT_EQ(box.Clip_Y, 2);
-    EXPECT_EQ(box.Clip_Dim_X, 3);
-    EXPECT_EQ(box.Clip_Dim_Y, 4);
+    EXPECT_EQ(clip_of(box), (Rect{1, 2, 3, 4}));
     EXPECT_EQ(box.Color_Get(), 0x30201u);
     EXPECT_EQ(box.Border, 7);
     EXPECT_EQ(box.Font_Name, name);
@@ -273,10 +225,7 @@ TEST_F(Spinner, TheBoxHasWhatBelongsToTheFrame) {
 TEST_F(Spinner, TheZoneIsARectangleAndNoControl) {
     spin.Clip_X = 1, spin.Clip_Y = 2, spin.Clip_Dim_X = 3, spin.Clip_Dim_Y = 4;
     horizontal(1);
-    EXPECT_EQ(spin.Zone.Clip_X, 1);
-    EXPECT_EQ(spin.Zone.Clip_Y, 2);
-    EXPECT_EQ(spin.Zone.Clip_Dim_X, 3);
-    EXPECT_EQ(spin.Zone.Clip_Dim_Y, 4);
+    EXPECT_EQ(clip_of(spin.Zone), (Rect{1, 2, 3, 4}));
     EXPECT_EQ(spin.Zone.test, 0);
     EXPECT_EQ(spin.Zone.Flag, 0u);
     EXPECT_EQ(spin.Zone.Wnd, nullptr);
@@ -321,159 +270,6 @@ TEST_F(Spinner, InitBringsTheValueIntoRange) {
     spin.Cur_Value = 0;
     spin.Init(nullptr);
     EXPECT_EQ(spin.Cur_Value, 0) << "only Draw leaves a choice that is skipped";
-}
-
-// --- Init: layout ---
-
-TEST_F(Spinner, TheZoneByNameFlagsAndBorder) {
-    struct Row {
-        DWORD flag;
-        const wchar_t* name;
-        int value_dim, border;
-        Rect zone;
-    };
-    const wchar_t* const name = L"name"; // 32 wide, and an "X" of 8
-    for (const Row& row : {
-             Row{0, nullptr, 0, 0, {105, 205, 190, 20}},
-             Row{TEXT_LEFT, nullptr, 0, 0, {105, 205, 190, 20}},
-             Row{TEXT_LEFT, name, 0, 0, {150, 205, 145, 20}},
-             Row{TEXT_RIGHT, name, 0, 0, {105, 205, 145, 20}},
-             Row{TEXT_LEFT | TEXT_RIGHT, name, 0, 0, {150, 205, 145, 20}},
-             Row{0, name, 0, 0, {105, 205, 190, 10}},
-             Row{TEXT_BOTTOM, name, 0, 0, {105, 205, 190, 10}},
-             Row{TEXT_MIDDLE, name, 0, 0, {105, 205, 190, 10}},
-             Row{0, nullptr, 80, 0, {210, 205, 80, 20}},
-             Row{TEXT_LEFT, name, 80, 0, {210, 205, 80, 20}}, // the name may run under the zone
-             Row{TEXT_RIGHT, name, 80, 0, {210, 205, 80, 20}},
-             Row{0, name, 300, 0, {-10, 205, 300, 20}},
-             Row{0, name, -5, 0, {295, 205, 0, 20}},
-             Row{0, nullptr, 0, 1, {104, 204, 192, 22}}, // never nearer than 4
-             Row{0, nullptr, 0, 7, {109, 209, 182, 12}},
-             Row{0, nullptr, 0, -8, {104, 204, 192, 22}}, // the border keeps its sign
-             Row{0, nullptr, 0, 60, {162, 262, 76, 0}},
-             Row{0, nullptr, 0, 150, {252, 352, 0, 0}},
-         }) {
-        spin.Flag = row.flag;
-        row.name ? spin.Name_Set(L"%ls", row.name) : spin.Name_Set(nullptr);
-        spin.Value_Dim = row.value_dim, spin.Border = row.border;
-        spin.Dim_X = 200, spin.Dim_Y = 30;
-        spin.Init(recorder::window());
-        EXPECT_EQ(rect_of(spin.Zone), row.zone)
-            << std::hex << row.flag << std::dec << (row.name ? " named " : " ") << row.value_dim << ' '
-            << row.border;
-    }
-    BORDER = 10;
-    spin.Border = 0, spin.Value_Dim = 0, spin.Flag = 0;
-    spin.Name_Set(nullptr);
-    spin.Init(nullptr);
-    EXPECT_EQ(rect_of(spin.Zone), (Rect{112, 212, 176, 6}));
-}
-
-TEST_F(Spinner, TheZoneGoesByTheControlsOwnFont) {
-    spin.Font_Size = 13;
-    spin.Name_Set(L"name");
-    spin.Flag = TEXT_LEFT;
-    const HFONT font = Zeb_Create_Font(recorder::window(), nullptr, nullptr, nullptr, 13);
-    recorder::metrics(font, 9, 11);
-    horizontal(1);
-    EXPECT_EQ(spin.Zone.Pos_X, 100 + 10 + 44 + 11);
-    EXPECT_EQ(spin.Zone.Dim_X, 200 - 15 - 44 - 11);
-    spin.Flag = 0;
-    spin.Init(nullptr);
-    EXPECT_EQ(spin.Zone.Dim_Y, 30 - 10 - 9);
-}
-
-TEST_F(Spinner, TheArrowsLengthIsTheLesserOfAcrossAndHalfOfAlong) {
-    struct Row {
-        DWORD flag;
-        int width, height, given, arrow;
-    };
-    for (const Row& row : {
-             Row{0, 200, 30, 0, 30},
-             Row{0, 60, 30, 0, 14},
-             Row{0, 61, 30, 0, 14}, // the division cuts
-             Row{0, 32, 30, 0, 0},
-             Row{0, 10, 30, 0, -11}, // stored all the same
-             Row{0, 1, 1, 0, -16},
-             Row{OUTIL_VERTICAL, 40, 200, 0, 40},
-             Row{OUTIL_VERTICAL, 40, 81, 0, 24},
-             Row{OUTIL_VERTICAL, 200, 30, 0, -1},
-             Row{0, 200, 30, 12, 12},
-             Row{0, 200, 30, -3, -3},
-             Row{0, INT_MAX, INT_MAX, 0, INT_MAX / 2 - 16},
-         }) {
-        Selects fresh;
-        fresh.Flag = row.flag | OUTIL_EMPTY; // no faces, of which some would be too large
-        fresh.Dim_X = row.width, fresh.Dim_Y = row.height, fresh.Arrow_Dim = row.given;
-        fresh.Init(recorder::window());
-        EXPECT_EQ(fresh.Arrow_Dim, row.arrow) << row.width << ' ' << row.height;
-    }
-    CURSEUR = 40;
-    Selects fresh;
-    fresh.Dim_X = 100, fresh.Dim_Y = 30;
-    fresh.Init(recorder::window());
-    EXPECT_EQ(fresh.Arrow_Dim, 10);
-}
-
-TEST_F(Spinner, TheComputedArrowSurvivesALaterInit) {
-    horizontal(1);
-    spin.Dim_X = 500, spin.Dim_Y = 80;
-    spin.Init(nullptr);
-    EXPECT_EQ(spin.Arrow_Dim, 30);
-    spin.Arrow_Dim = 0;
-    spin.Init(nullptr);
-    EXPECT_EQ(spin.Arrow_Dim, 80);
-}
-
-TEST_F(Spinner, TheChoicesHaveWhatTheArrowsLeave) {
-    struct Row {
-        DWORD flag;
-        int width, height, arrow;
-        Rect value;
-    };
-    for (const Row& row : {
-             Row{0, 200, 30, 0, {140, 205, 120, 20}},
-             Row{0, 200, 30, 12, {122, 205, 156, 20}},
-             Row{OUTIL_VERTICAL, 40, 200, 0, {105, 250, 30, 100}},
-             Row{0, 80, 30, 30, {140, 205, 0, 20}},
-             Row{OUTIL_VERTICAL, 40, 80, 30, {105, 240, 30, 0}},
-             Row{0, 10, 30, 0, {99, 205, 12, 20}}, // wider than the zone, which is empty
-             Row{OUTIL_VERTICAL, 40, 10, 0, {105, 199, 30, 12}},
-             Row{0, 200, 30, -100, {10, 205, 380, 20}},
-         }) {
-        spin.Flag = 0, spin.Arrow_Dim = row.arrow;
-        lay(row.flag, 2, row.width, row.height);
-        for (int i = 0; i < 2; i++)
-            EXPECT_EQ(rect_of(item(i)), row.value) << row.width << ' ' << row.height << ' ' << row.arrow;
-    }
-}
-
-// Nothing overflows whatever the fields hold.
-TEST_F(Spinner, WildFieldsAreLaidOut) {
-    spin.Flag = OUTIL_EMPTY;
-    spin.Grow(2, 0);
-    spin.Name_Set(L"name");
-    for (const int wild : {INT_MIN, INT_MIN + 1, -1, 1 << 30, INT_MAX - 1, INT_MAX})
-        for (const DWORD flag : {DWORD(0), OUTIL_VERTICAL, TEXT_LEFT, TEXT_RIGHT})
-            for (int field = 0; field < 6; field++) {
-                spin.Flag = OUTIL_EMPTY | flag;
-                spin.Pos_X = spin.Pos_Y = 10, spin.Dim_X = spin.Dim_Y = 50;
-                spin.Border = spin.Value_Dim = spin.Arrow_Dim = 0;
-                (field == 0   ? spin.Pos_X
-                 : field == 1 ? spin.Pos_Y
-                 : field == 2 ? spin.Dim_X
-                 : field == 3 ? spin.Border
-                 : field == 4 ? spin.Value_Dim
-                              : spin.Arrow_Dim) = wild;
-                spin.Init(recorder::window());
-                EXPECT_GE(spin.Zone.Dim_X, 0);
-                EXPECT_GE(spin.Zone.Dim_Y, 0);
-                EXPECT_GE(item(0).Dim_X, 0);
-                EXPECT_GE(item(1).Dim_Y, 0);
-                spin.Draw();
-                spin.Select(2);
-                recorder::clear();
-            }
 }
 
 } // namespace

@@ -184,9 +184,7 @@ struct Spinner_Laws : Recorded {
 };
 
 TEST_F(Spinner_Laws, KeepsTheProtocolWithAnyFields) {
-    const unsigned seed = law_seed();
-    for (int round = 0; round < law_rounds(250) && !HasFailure(); ++round) {
-        Chance chance(seed + static_cast<unsigned>(round));
+    for_seeds(250, [&](Chance& chance) {
         Selects spin;
         for (int step = 0; step < 60 && !HasFailure(); ++step) {
             for (unsigned changes = chance.below(4); changes > 0; --changes)
@@ -196,9 +194,8 @@ TEST_F(Spinner_Laws, KeepsTheProtocolWithAnyFields) {
             const Act act = static_cast<Act>(chance.below(static_cast<unsigned>(Act::kCount)));
             const int mode = chance.one_in(2) ? chance.of({2, 18, 1, -1, 0}) : any_int(chance);
             const char* const name = kNames[static_cast<int>(act)];
-            SCOPED_TRACE(testing::Message()
-                         << "LAWS_SEED=" << seed << " round " << round << " step " << step << ' ' << name
-                         << ' ' << mode << " flag " << std::hex << spin.Flag);
+            SCOPED_TRACE(testing::Message() << "step " << step << ' ' << name << ' ' << mode << " flag "
+                                            << std::hex << spin.Flag);
             const Model expected = expected_of(spin, act, mode, pointer);
             recorder::clear();
             EXPECT_EQ(perform(spin, act, mode), expected.answer);
@@ -211,15 +208,12 @@ TEST_F(Spinner_Laws, KeepsTheProtocolWithAnyFields) {
             EXPECT_GE(painted, expected.must_paint);
             EXPECT_LE(painted, expected.may_paint) << recorder::text();
         }
-    }
+    });
 }
 
 // As many steps as there are choices to be seen lead back, each of them once.
 TEST_F(Spinner_Laws, OneRoundVisitsEveryChoiceThatIsNotSkippedOnce) {
-    const unsigned seed = law_seed();
-    for (int round = 0; round < law_rounds(100) && !HasFailure(); ++round) {
-        SCOPED_TRACE(testing::Message() << "LAWS_SEED=" << seed << " round " << round);
-        Chance chance(seed + static_cast<unsigned>(round));
+    for_seeds(100, [&](Chance& chance) {
         Selects spin;
         spin.Dim_X = 200, spin.Dim_Y = 30;
         const int count = chance.between(1, 9);
@@ -227,7 +221,7 @@ TEST_F(Spinner_Laws, OneRoundVisitsEveryChoiceThatIsNotSkippedOnce) {
         int seen = 0;
         for (int i = 0; i < count; i++)
             chance.one_in(3) ? spin.Item[i]->Flag |= OUTIL_INVISIBLE : static_cast<DWORD>(seen++);
-        if (!seen) continue;
+        if (!seen) return;
         spin.Init(recorder::window());
         spin.Draw();
         const int start = spin.Cur_Value, delta = chance.of({-1, 1});
@@ -238,15 +232,12 @@ TEST_F(Spinner_Laws, OneRoundVisitsEveryChoiceThatIsNotSkippedOnce) {
         for (int i = 0; i < count; i++)
             EXPECT_EQ(visits[i], spin.Item[i]->Flag & OUTIL_INVISIBLE ? 0 : 1);
         recorder::clear();
-    }
+    });
 }
 
 // What a spinner shows is decided by its fields alone, by whatever way they came about.
 TEST_F(Spinner_Laws, AFreshDrawShowsWhatTheWayLedTo) {
-    const unsigned seed = law_seed();
-    for (int round = 0; round < law_rounds(60) && !HasFailure(); ++round) {
-        SCOPED_TRACE(testing::Message() << "LAWS_SEED=" << seed << " round " << round);
-        Chance chance(seed + static_cast<unsigned>(round));
+    for_seeds(60, [&](Chance& chance) {
         Picture picture(240, 240), fresh(240, 240);
         recorder::paint_on(&picture);
         Selects spin;
@@ -275,7 +266,7 @@ TEST_F(Spinner_Laws, AFreshDrawShowsWhatTheWayLedTo) {
         EXPECT_TRUE(picture == fresh);
         recorder::paint_on(nullptr);
         recorder::clear();
-    }
+    });
 }
 
 } // namespace

@@ -111,4 +111,46 @@ inline void solid_face(const TabItems& tab, unsigned face, int x0, int x1, int y
 
 } // namespace told
 
+// A tab of 80 by 24 at (10, 20), drawn once, the pointer beside it.
+struct Tab : Recorded {
+    TabItems tab;
+    void SetUp() override {
+        Recorded::SetUp();
+        BORDER = 3;
+        tab.Pos_X = 10, tab.Pos_Y = 20, tab.Dim_X = 80, tab.Dim_Y = 24;
+        tab.Slant = 6;
+        tab.Shape = 0x11;
+        tab.Name_Set(L"tab");
+        tab.Init(recorder::window());
+        tab.Draw(); // brings the fonts into their cache
+        outside();
+        recorder::clear();
+    }
+    void inside() { recorder::pointer(30, 30); }
+    void outside() { recorder::pointer(-50, -50); }
+
+    // --- The steps ---
+    void frame() { told::cadre(tab, tab.Cur_Value, 10, 90, 20, 44); }
+    void written(DWORD flag, int y) {
+        if (tab.W_Name) tab.Text(tab.W_Name, static_cast<long>(flag), 10, y, 80, 24, tab.Border, 0);
+    }
+    void title(int y) { written(tab.Cur_Value ? tab.Flag | TEXT_WHITE : tab.Flag & ~TEXT_WHITE, y); }
+    unsigned face_word(bool on) const {
+        if (on) return tab.Cur_Value ? 0x6464E6 : 0x6464D2;
+        return tab.Cur_Value ? 0xAAAAAA : 0x969696; // 170, and 150
+    }
+    void look(bool on) {
+        const DWORD* image = on ? tab.Image_Select : tab.Image_Normal;
+        if (!image)
+            told::solid_face(tab, face_word(on), 16, 84, 20, 44);
+        else
+            tab.Fill_Select(on, reinterpret_cast<const char*>(image), tab.Flag, 4, 16, 84, 20, 44);
+        title(19);
+    }
+    void select(int which) {
+        read_pointer("TabItems::Select");
+        if (which >= 0) look(which == 1);
+    }
+};
+
 #endif

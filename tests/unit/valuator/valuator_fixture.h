@@ -3,79 +3,35 @@
 
 #include <limits>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include <brask/fenn.h>
 #include <brask/valuators.h>
 
 #include "controls/padlock.h"
-#include "unit/brask/expect.h"
+#include "unit/controls/range_bench.h"
 
 inline constexpr float kInf = std::numeric_limits<float>::infinity();
 inline constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
-const DWORD kAxes[] = {0, OUTIL_VERTICAL};
 
-// A value bar at 10, 20, along either axis, and its steps told by calls of the base and of the drawing
-// contract.
-struct Valuator : Recorded {
-    static constexpr int kX = 10, kY = 20, kLength = 200, kThick = 30;
-    Valuators bar;
+// A value bar of 200 by 30, and its steps told by calls of the base and of the drawing contract.
+struct Valuator : Range_Bench<Valuators> {
+    static constexpr int kLength = 200, kThick = 30;
 
     void SetUp() override {
-        Recorded::SetUp();
-        BORDER = 3, SPACE = 6, CURSEUR = 16;
+        Range_Bench::SetUp();
         lay(0);
     }
-    void TearDown() override {
-        BORDER = 3, SPACE = 6, CURSEUR = 16;
-        Recorded::TearDown();
-    }
-
-    // 200 by 30 along the axis that the flag tells, values from 0 to 100; Init done and forgotten.
+    // Init done and forgotten.
     void lay(DWORD flag, int border = 0, const char* format = nullptr, int field = 0) {
-        bar.Flag = flag;
-        bar.Pos_X = kX, bar.Pos_Y = kY;
-        bar.Dim_X = vertical() ? kThick : kLength;
-        bar.Dim_Y = vertical() ? kLength : kThick;
-        bar.Larg = 20;
-        bar.Border = border;
+        place(flag, kLength, kThick, 20, border);
         bar.Format = format;
         bar.Num_Width = field;
-        range(0, 100);
         init();
     }
-    void range(float first, float last) {
-        bar.Val_Min = first, bar.Val_Max = last;
-        if (bar.Flag & OUTIL_REVERSE) std::swap(bar.Val_Min, bar.Val_Max);
-    }
-    void init() {
-        bar.Init(recorder::window());
-        outside();
-        recorder::clear();
-    }
-    bool vertical() const { return (bar.Flag & OUTIL_VERTICAL) != 0; }
-    int b() const { return bar.Border ? bar.Border : BORDER; }
-    int e() const { return b() + (bar.Format ? 2 : 0); }
-    int g() const { return b() + (bar.Format && bar.Border ? 2 : 0); }
-    int right() const { return bar.Pos_X + bar.Dim_X; }
-    int top() const { return bar.Pos_Y + bar.Dim_Y; }
-
-    // --- The pointer: so far along the track, in the middle of its thickness ---
-    void along(int offset) {
-        vertical() ? recorder::pointer(kX + bar.Dim_X / 2, kY + offset)
-                   : recorder::pointer(kX + offset, kY + bar.Dim_Y / 2);
-    }
-    void inside() { along(kLength / 2); }
-    void outside() { recorder::pointer(-500, -500); }
+    int e() const { return bevel() + (bar.Format ? 2 : 0); }
+    int g() const { return bevel() + (bar.Format && bar.Border ? 2 : 0); }
 
     // --- The steps ---
-    using Points = std::vector<std::pair<int, int>>;
-    static void line(unsigned long color, const Points& points) {
-        Zeb_color(color);
-        for (std::size_t i = 0; i < points.size(); ++i)
-            i ? draw2s(points[i].first, points[i].second, 0) : move2s(points[0].first, points[0].second);
-    }
     void locked(int l, int T, int r, int B, int side) const {
         Zeb_color(0xD8D8D8);
         draw_fill_rectangle(l + 1, T - 1, r, B);
@@ -116,16 +72,8 @@ struct Valuator : Recorded {
         line(1, {{l + 1, B}, {r, B}, {r, T}});
     }
     void thumb(int p = 0) const {
-        Zeb_setup(bar.Wnd, "Valuators::Cursor");
-        const bool clip = bar.Clip_Dim_X != 0;
-        if (clip) Zeb_set_clip(bar.Clip_X, bar.Clip_Y, bar.Clip_Dim_X, bar.Clip_Dim_Y);
-        vertical() ? vertical_thumb(p) : horizontal_thumb(p);
-        if (clip) Zeb_reset_clip();
-        Zeb_release();
+        bracketed("Valuators::Cursor", [&] { vertical() ? vertical_thumb(p) : horizontal_thumb(p); });
     }
-    void ground() { bar.Fill(bar.Flag, kX, right(), kY, top()); }
-    void frame(int width) { bar.Cadre(1, 1, width, kX, right(), kY, top()); }
-    void outline() { bar.Cadre_Outline(kX, right(), kY, top()); }
     void face(bool on, const DWORD* image) {
         bar.Fill_Select(on, reinterpret_cast<const char*>(image), bar.Flag, g() + 1, kX,
                         right() - bar.Num_Width, kY, top());
@@ -135,13 +83,27 @@ struct Valuator : Recorded {
             bar.Text(bar.W_Name, bar.Flag, kX, kY, bar.Dim_X - bar.Num_Width, bar.Dim_Y, bar.Border, 0);
     }
     void number(const wchar_t* text) {
-        bar.Text(text, 0, right() - 1 - bar.Num_Width - b(), kY, bar.Num_Width, bar.Dim_Y, bar.Border, 0);
+        bar.Text(text, 0, right() - 1 - bar.Num_Width - bevel(), kY, bar.Num_Width, bar.Dim_Y, bar.Border, 0);
     }
     void inner_frame() {
-        bar.Cadre(0, 1, 1, kX + 2 + b(), right() - 2 - bar.Num_Width - b(), kY + 2 + b(), top() - 2 - b());
+        bar.Cadre(0, 1, 1, kX + 2 + bevel(), right() - 2 - bar.Num_Width - bevel(), kY + 2 + bevel(),
+                  top() - 2 - bevel());
     }
     void wipe() {
-        bar.Fill(0, right() - 2 - bar.Num_Width - b(), right() - 2 - b(), kY + 2 + b(), top() - 2 - b());
+        bar.Fill(0, right() - 2 - bar.Num_Width - bevel(), right() - 2 - bevel(), kY + 2 + bevel(),
+                 top() - 2 - bevel());
+    }
+    // The value 12.5 of 100 in a field of 60.
+    void expect_shown(const char* format, const wchar_t* text) {
+        lay(0, 0, format, 60);
+        bar.Cur_Value = 12.5f;
+        EXPECT_EQ(painted([&] { bar.Draw(); }), painted([&] {
+                      ground();
+                      frame(3);
+                      number(text);
+                      thumb(static_cast<int>(94 * 0.125 + 0.5)); // of 200 - 40 - 6 - 60
+                  }))
+            << format;
     }
     // A Select that paints in this look, or nothing with -1. A faceless one paints name and thumb alone.
     void select(int look, const std::string& tag, int p = 0) {

@@ -8,27 +8,12 @@
 namespace {
 
 TEST_F(Valuator, StartsAllZero) {
-    const Valuators fresh;
-    EXPECT_EQ(fresh.Cur_Value, 0);
-    EXPECT_EQ(fresh.Format, nullptr);
-    EXPECT_EQ(fresh.select, 0);
-    EXPECT_EQ(fresh.Held, 0);
-    EXPECT_EQ(fresh.Table_Size, 0);
-    for (const float value : fresh.Value_Table)
-        ASSERT_EQ(value, 0);
+    EXPECT_EQ(made_all_zero<Valuators>(), everything([] { begins("Valuators"); }));
 }
 
 TEST_F(Valuator, ConstructorAndDestructorReportCopiesDoNot) {
-    EXPECT_EQ(everything([] { Valuators fresh; }), everything([] {
-                  trace_in("Tools::Tools", "");
-                  trace_out("Tools::Tools", "");
-                  trace_in("Valuators::Valuators", "");
-                  trace_out("Valuators::Valuators", "");
-                  trace_in("Valuators::~Valuators", "");
-                  trace_out("Valuators::~Valuators", "");
-                  trace_in("Tools::~Tools", "");
-                  trace_out("Tools::~Tools", "");
-              }));
+    EXPECT_EQ(everything([] { Valuators fresh; }),
+              everything([] { begins("Valuators"), ends("Valuators"); }));
     Valuators other;
     EXPECT_EQ(everything([&] { other = bar; }), "");
 }
@@ -81,9 +66,7 @@ TEST_F(Valuator, InitWithoutAWindowWarnsEachTime) {
     for (int time = 0; time < 2; ++time) {
         recorder::clear();
         lone.Init(nullptr);
-        EXPECT_EQ(recorder::warnings(), "[90000021] Tools: WARNING ! \n"
-                                        "[90000021]    you must provide a window\n"
-                                        "[90000021]    type: Valuators::Init   name: no name\n");
+        EXPECT_EQ(recorder::warnings(), window_warning("Valuators::Init"));
         EXPECT_EQ(recorder::exit_tag("Valuators::Init"), "!wnd");
         EXPECT_EQ(lone.Table_Size, 0);
     }

@@ -85,9 +85,8 @@ TEST_F(Valuator, ANameBeforeInitLetsSelectWarnOfBadData) {
     named.Name_Set(L"Name");
     recorder::clear();
     EXPECT_EQ(named.Select(2), 0);
-    EXPECT_EQ(recorder::warnings(), "[80000001] Tools: WARNING ! \n"
-                                    "[80000001]    bad data in device's structure\n"
-                                    "[80000001]    type: Valuator::Select   name: Name\\n\n");
+    EXPECT_EQ(recorder::warnings(),
+              first_use_warning("Valuator::Select", "Name", "bad data in device's structure"));
     EXPECT_EQ(recorder::exit_tag("Valuators::Select"), "<0");
     EXPECT_EQ(named.test, 2);
 }

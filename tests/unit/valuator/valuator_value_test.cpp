@@ -237,13 +237,11 @@ TEST_F(Valuator, LockOpensLocksAndTurnsOver) {
 
 // --- The number ---
 
-struct Shown {
-    const char* format;
-    const wchar_t* text;
-};
-
 TEST_F(Valuator, TheNumberInItsField) {
-    const Shown rows[] = {
+    struct {
+        const char* format;
+        const wchar_t* text;
+    } const rows[] = {
         {"%f", L"12.500000"},
         {"%.1f", L"12.5"},
         {"%6.1f", L"  12.5"},
@@ -255,22 +253,16 @@ TEST_F(Valuator, TheNumberInItsField) {
                          L"12.5"},
         {"%lf", L"12.500000"},
     };
-    for (const auto& row : rows) {
-        lay(0, 0, row.format, 60);
-        bar.Cur_Value = 12.5f;
-        EXPECT_EQ(painted([&] { bar.Draw(); }), painted([&] {
-                      ground();
-                      frame(3);
-                      number(row.text);
-                      thumb(static_cast<int>(94 * 0.125 + 0.5)); // of 200 - 40 - 6 - 60
-                  }))
-            << row.format;
-    }
+    for (const auto& row : rows)
+        expect_shown(row.format, row.text);
 }
 
 // A format from outside may hold anything: what is not the one number prints nothing and reads nothing.
 TEST_F(Valuator, AWrongFormatPrintsNothingOfMemory) {
-    const Shown rows[] = {
+    struct {
+        const char* format;
+        const wchar_t* text;
+    } const rows[] = {
         {"text", L"text"},
         {"", L""},
         {"%s", L""},
@@ -286,17 +278,8 @@ TEST_F(Valuator, AWrongFormatPrintsNothingOfMemory) {
         {"100%", L"100"},
         {"%.*f", L"12"},
     };
-    for (const auto& row : rows) {
-        lay(0, 0, row.format, 60);
-        bar.Cur_Value = 12.5f;
-        EXPECT_EQ(painted([&] { bar.Draw(); }), painted([&] {
-                      ground();
-                      frame(3);
-                      number(row.text);
-                      thumb(12);
-                  }))
-            << row.format;
-    }
+    for (const auto& row : rows)
+        expect_shown(row.format, row.text);
 }
 
 TEST_F(Valuator, ALongNumberIsCutAt79) {
