@@ -107,7 +107,7 @@ constexpr Line LEAF[] = {{7, 4, 7, 0, Reach::UP}, {7, 4, 1, 4, Reach::RIGHT}};
 
 template <std::size_t COUNT>
 constexpr Layer framed(const Line (&list)[COUNT]) {
-    return {GLYPH_BLACK, Block::FRAME, 3, 8, 11, 0, list, COUNT};
+    return {WORD_BLACK, Block::FRAME, 3, 8, 11, 0, list, COUNT};
 }
 
 constexpr Layer COLLAPSE[] = {framed(PLUS), lines(TREE_LINE, BRANCH)};
@@ -118,15 +118,15 @@ constexpr Layer NO_ACCESS[] = {lines(GLYPH_RED, FORBIDDEN), lines(TREE_LINE, BRA
 
 void Icon_Dir_Close(const Boxs* box, int x, int y, char select) {
     if (!box) return;
-    paint({face(select, CLOSED_FACE), lines(GLYPH_BLACK, CLOSED_BLACK), lines(FOLDER_SHADE, CLOSED_SHADE),
-           lines(GLYPH_WHITE, CLOSED_WHITE)},
+    paint({face(select, CLOSED_FACE), lines(WORD_BLACK, CLOSED_BLACK), lines(FOLDER_SHADE, CLOSED_SHADE),
+           lines(WORD_WHITE, CLOSED_WHITE)},
           {x, x, y, y});
 }
 
 void Icon_Dir_Open(const Boxs* box, int x, int y, char select) {
     if (!box) return;
-    paint({face(select, OPEN_FACE), lines(GLYPH_BLACK, OPEN_BLACK), lines(FOLDER_SHADE, OPEN_SHADE),
-           lines(GLYPH_WHITE, OPEN_WHITE)},
+    paint({face(select, OPEN_FACE), lines(WORD_BLACK, OPEN_BLACK), lines(FOLDER_SHADE, OPEN_SHADE),
+           lines(WORD_WHITE, OPEN_WHITE)},
           {x, x, y, y});
 }
 

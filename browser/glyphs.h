@@ -3,12 +3,11 @@
 
 #include <brask/fenn.h>
 
+#include "foundation/palette.h"
 #include "foundation/pixels.h"
 
 namespace brask {
 
-inline constexpr unsigned long GLYPH_BLACK = 1;
-inline constexpr unsigned long GLYPH_WHITE = 0xFFFFFF;
 inline constexpr unsigned long GLYPH_RED = 0xFF;
 
 // One line; its end point is not painted.

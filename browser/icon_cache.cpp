@@ -98,10 +98,10 @@ void Icon_Draw_Border(const Boxs* box, int x, int y, const wchar_t*, const wchar
     const Icon_Entry* const icon = icon_at(box, x, y, name);
     if (!icon) return;
     const Px left = x, right = left + icon->Dim_X, bottom = y, top = bottom + icon->Dim_Y;
-    Zeb_color(GLYPH_BLACK);
+    Zeb_color(WORD_BLACK);
     stroke(left, bottom - 1, right, bottom - 1);
     stroke(right, bottom - 1, right, top);
-    Zeb_color(GLYPH_WHITE);
+    Zeb_color(WORD_WHITE);
     stroke(left - 1, top, right, top);
     stroke(left - 1, bottom, left - 1, top);
 }

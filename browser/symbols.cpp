@@ -28,7 +28,7 @@ class Box_Bracket {
 
 // The frame with its horizontal bar.
 void paint_minus(Px size, Px x, Px y) {
-    Zeb_color(GLYPH_WHITE);
+    Zeb_color(WORD_WHITE);
     draw_rectangle(x, y + size, x + size, y);
     const Px middle = y + size / 2;
     stroke(x + 2, middle, x + size - 1, middle);

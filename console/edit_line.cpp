@@ -38,15 +38,17 @@ const char* refusal(const Texts& console, int key) {
     return nullptr;
 }
 
-// The line is emptied as far as that, and what waited for the host is dropped. True: the caret is to go
-// behind the text. It stays for a host that begins anew after each reported edit.
-bool begin_reading(Texts& console, std::size_t emptied) {
+// The line is emptied as far as that and given its first text, if any; what waited for the host is dropped.
+// The caret goes behind the text, but stays for a host that begins anew after each reported edit.
+template <typename Char>
+void begin_reading(Texts& console, std::size_t emptied, const Char* format, std::va_list args) {
     const bool again = console.Flag & TEXTS_REPORT_KEYS && reading(console);
     std::wmemset(console.Edit_Line, 0, emptied);
     end_line(console);
     console.Hist_Pos = 0;
     console.flag_read = TEXTS_READING;
-    return !again;
+    if (format) std::wcscpy(console.Edit_Line, Formatted(format, args).text);
+    if (!again) console.Edit_Pos = edit_length(console);
 }
 
 // The line that waits for the host, and whether there is one. A completed line ends reading.
@@ -66,14 +68,10 @@ void Texts::Read(const char* format, ...) {
     Trace trace("Texts::Read", *this);
     check_first_use(*this, "Text::Read");
     if (too_small(*this)) return trace.out("<0");
-    const bool to_end = begin_reading(*this, EDIT_FRONT); // the back half keeps what it holds, unseen
-    if (format) {
-        std::va_list args;
-        va_start(args, format);
-        std::wcscpy(Edit_Line, Formatted(format, args).text);
-        va_end(args);
-    }
-    if (to_end) Edit_Pos = edit_length(*this);
+    std::va_list args;
+    va_start(args, format);
+    begin_reading(*this, EDIT_FRONT, format, args); // the back half keeps what it holds, unseen
+    va_end(args);
     Draw();
     trace.out("done0");
 }
@@ -82,14 +80,10 @@ void Texts::Read(const wchar_t* format, ...) {
     Trace trace("Texts::Read", *this);
     check_first_use(*this, "Text::Read");
     if (too_small(*this)) return trace.out("<0");
-    const bool to_end = begin_reading(*this, LINE_ROOM);
-    if (format) {
-        std::va_list args;
-        va_start(args, format);
-        std::wcscpy(Edit_Line, Formatted(format, args).text);
-        va_end(args);
-    }
-    if (to_end) Edit_Pos = edit_length(*this);
+    std::va_list args;
+    va_start(args, format);
+    begin_reading(*this, LINE_ROOM, format, args);
+    va_end(args);
     Draw();
     trace.out("done0");
 }

@@ -10,6 +10,7 @@
 #include "console/store.h"
 #include "foundation/bracket.h"
 #include "foundation/marks.h"
+#include "foundation/palette.h"
 #include "foundation/track.h"
 
 using namespace brask;

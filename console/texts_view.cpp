@@ -10,6 +10,7 @@
 #include "foundation/bracket.h"
 #include "foundation/checks.h"
 #include "foundation/marks.h"
+#include "foundation/palette.h"
 #include "foundation/trace.h"
 
 using namespace brask;

@@ -65,14 +65,6 @@ void choose_surfaces(Buttons& b, HWND wnd) {
     }
 }
 
-// The pair that matches the present value.
-void choose_images(Buttons& b) {
-    b.Image_Normal = Host_Surfaces::current(b, Host_Surfaces::NORMAL,
-                                            b.Cur_Value ? b.Image_Normal_On : b.Image_Normal_Off);
-    b.Image_Select = Host_Surfaces::current(b, Host_Surfaces::SELECT,
-                                            b.Cur_Value ? b.Image_Select_On : b.Image_Select_Off);
-}
-
 using Fill = void (Tools::*)(int, int, int, int);
 
 Fill lamp_fill(const Buttons& button) {

@@ -53,7 +53,7 @@ constexpr thumb::Stroke HORIZONTAL_THUMB[] = {
     thumb::HORIZONTAL_LIGHT,
     thumb::DARK_SIDES,
     thumb::INNER_SIDES,
-    {thumb::DARK, 2, {{thumb::MIDDLE, -1, thumb::BOTTOM, 1}, {thumb::MIDDLE, -1, thumb::TOP, -1}, {}}},
+    {WORD_BLACK, 2, {{thumb::MIDDLE, -1, thumb::BOTTOM, 1}, {thumb::MIDDLE, -1, thumb::TOP, -1}, {}}},
 };
 
 } // namespace
@@ -109,7 +109,7 @@ void Sliders::Paint_Thumb() {
     Bracket bracket(*this, "Sliders::Cursor");
     const bool vertical = axis_of(*this).vertical;
     const Area area = slider_thumb(*this, Posit());
-    Zeb_color(thumb::FACE);
+    Zeb_color(WORD_SHADOW);
     // Along the horizontal track the fill stops one row lower.
     draw_fill_rectangle(Px(area.x1) + 1, Px(area.y2) - (vertical ? 0 : 1), area.x2, area.y1);
     thumb::paint(vertical ? VERTICAL_THUMB : HORIZONTAL_THUMB, area, Px(vertical ? area.y1 : area.x1) + Larg);

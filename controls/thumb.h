@@ -5,6 +5,7 @@
 
 #include <brask/fenn.h>
 
+#include "foundation/palette.h"
 #include "foundation/pixels.h"
 
 namespace brask::thumb {
@@ -27,22 +28,19 @@ struct Stroke {
     Corner corner[3];
 };
 
-inline constexpr unsigned long FACE = 0x6E6E6E;
-inline constexpr unsigned long LIGHT = 0xD8D8D8;
-inline constexpr unsigned long DARK = 1;
-
 inline constexpr Stroke LIGHT_SIDES = {
-    LIGHT, 3, {{LEFT, 0, BOTTOM, 0}, {LEFT, 0, TOP, 0}, {RIGHT, -1, TOP, 0}}};
+    WORD_LIGHT, 3, {{LEFT, 0, BOTTOM, 0}, {LEFT, 0, TOP, 0}, {RIGHT, -1, TOP, 0}}};
 inline constexpr Stroke DARK_SIDES = {
-    DARK, 3, {{LEFT, 1, BOTTOM, 0}, {RIGHT, 0, BOTTOM, 0}, {RIGHT, 0, TOP, 0}}};
+    WORD_BLACK, 3, {{LEFT, 1, BOTTOM, 0}, {RIGHT, 0, BOTTOM, 0}, {RIGHT, 0, TOP, 0}}};
 inline constexpr Stroke INNER_SIDES = {
-    DARK, 3, {{LEFT, 2, BOTTOM, 1}, {RIGHT, -1, BOTTOM, 1}, {RIGHT, -1, TOP, -1}}};
+    WORD_BLACK, 3, {{LEFT, 2, BOTTOM, 1}, {RIGHT, -1, BOTTOM, 1}, {RIGHT, -1, TOP, -1}}};
 
 // A light and a dark line make the groove across the middle. Of the horizontal thumb's dark line each
 // control has its own.
-inline constexpr Stroke VERTICAL_LIGHT = {LIGHT, 2, {{LEFT, 1, MIDDLE, -1}, {RIGHT, -1, MIDDLE, -1}, {}}};
-inline constexpr Stroke VERTICAL_DARK = {DARK, 2, {{LEFT, 1, MIDDLE, 0}, {RIGHT, 0, MIDDLE, 0}, {}}};
-inline constexpr Stroke HORIZONTAL_LIGHT = {LIGHT, 2, {{MIDDLE, 0, BOTTOM, 1}, {MIDDLE, 0, TOP, 0}, {}}};
+inline constexpr Stroke VERTICAL_LIGHT = {
+    WORD_LIGHT, 2, {{LEFT, 1, MIDDLE, -1}, {RIGHT, -1, MIDDLE, -1}, {}}};
+inline constexpr Stroke VERTICAL_DARK = {WORD_BLACK, 2, {{LEFT, 1, MIDDLE, 0}, {RIGHT, 0, MIDDLE, 0}, {}}};
+inline constexpr Stroke HORIZONTAL_LIGHT = {WORD_LIGHT, 2, {{MIDDLE, 0, BOTTOM, 1}, {MIDDLE, 0, TOP, 0}, {}}};
 
 inline void paint(const Stroke& stroke, const Area& area, int middle) {
     const int edges[] = {area.x1, area.x2, area.y1, area.y2, middle};

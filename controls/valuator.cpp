@@ -12,6 +12,7 @@
 #include "foundation/bracket.h"
 #include "foundation/checks.h"
 #include "foundation/layout.h"
+#include "foundation/palette.h"
 #include "foundation/trace.h"
 #include "foundation/track.h"
 #include "text/format.h"
@@ -67,34 +68,32 @@ void build_table(Valuators& bar) {
 constexpr thumb::Stroke FREE_VERTICAL[] = {thumb::VERTICAL_LIGHT, thumb::VERTICAL_DARK, thumb::INNER_SIDES};
 constexpr thumb::Stroke FREE_HORIZONTAL[] = {
     thumb::HORIZONTAL_LIGHT,
-    {thumb::DARK, 2, {{thumb::MIDDLE, -1, thumb::BOTTOM, 1}, {thumb::MIDDLE, -1, thumb::TOP, 0}, {}}},
+    {WORD_BLACK, 2, {{thumb::MIDDLE, -1, thumb::BOTTOM, 1}, {thumb::MIDDLE, -1, thumb::TOP, 0}, {}}},
     thumb::INNER_SIDES,
 };
 constexpr thumb::Stroke SIDES_VERTICAL[] = {thumb::LIGHT_SIDES, thumb::DARK_SIDES};
 constexpr thumb::Stroke SIDES_HORIZONTAL[] = {
-    {thumb::LIGHT,
+    {WORD_LIGHT,
      3,
      {{thumb::LEFT, 0, thumb::BOTTOM, 1}, {thumb::LEFT, 0, thumb::TOP, 0}, {thumb::RIGHT, 0, thumb::TOP, 0}}},
     thumb::DARK_SIDES,
 };
 
-constexpr unsigned long LOCK_BLUE = 0xE64040;
-
 void paint_free(const Area& area, bool vertical, int middle) {
-    Zeb_color(thumb::FACE);
+    Zeb_color(WORD_SHADOW);
     draw_fill_rectangle(Px(area.x1) + 1, Px(area.y2) - (vertical ? 0 : 1), area.x2, area.y1);
     thumb::paint(vertical ? FREE_VERTICAL : FREE_HORIZONTAL, area, middle);
 }
 
 void paint_locked(const Valuators& bar, const Area& area) {
     const Px left = area.x1, right = area.x2, bottom = area.y1, top = area.y2;
-    Zeb_color(thumb::LIGHT);
+    Zeb_color(WORD_LIGHT);
     draw_fill_rectangle(left + 1, top - 1, right, bottom);
     const Valuator_Lock lock = valuator_lock(bar, area);
     if (lock.side)
         draw_image(reinterpret_cast<const char*>(padlock_glyph(lock.side)), lock.x, lock.y, 0, 0, lock.side,
                    lock.side, lock.side, lock.side, 0);
-    Zeb_color(LOCK_BLUE);
+    Zeb_color(WORD_OUTLINE);
     draw_rectangle(left + 1, top - 1, right - 1, bottom + 1);
 }
 

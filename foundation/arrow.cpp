@@ -1,16 +1,13 @@
 #include <brask/tools.h>
 
 #include "foundation/bracket.h"
+#include "foundation/palette.h"
 #include "foundation/pixels.h"
 #include "foundation/trace.h"
 
 using namespace brask;
 
 namespace {
-
-constexpr unsigned long FACE = 0x6E6E6E;
-constexpr unsigned long LIGHT = 0xD8D8D8;
-constexpr unsigned long DARK = 1;
 
 // The look of each direction. Light comes from the upper left, so the sides change their colours with it.
 struct Direction {
@@ -19,10 +16,10 @@ struct Direction {
     unsigned long upper, back, lower;
 };
 constexpr Direction DIRECTIONS[] = {
-    {false, false, LIGHT, DARK, DARK}, // left
-    {false, true, LIGHT, LIGHT, DARK}, // right
-    {true, false, DARK, LIGHT, LIGHT}, // down
-    {true, true, DARK, LIGHT, LIGHT},  // up
+    {false, false, WORD_LIGHT, WORD_BLACK, WORD_BLACK}, // left
+    {false, true, WORD_LIGHT, WORD_LIGHT, WORD_BLACK},  // right
+    {true, false, WORD_BLACK, WORD_LIGHT, WORD_LIGHT},  // down
+    {true, true, WORD_BLACK, WORD_LIGHT, WORD_LIGHT},   // up
 };
 
 // The lines that the polygons' corners lie on: along the axis of pointing, and across it. The second name of
@@ -68,7 +65,7 @@ void paint_arrow(const Direction& look, const Along& a, const Across& c) {
     const Corner tip = {a.tip, c.middle}, tip_in = {a.tip_in, c.middle};
     const Corner high = {a.base, c.high}, high_in = {a.base_in, c.high_in};
     const Corner low = {a.base, c.low}, low_in = {a.base_in, c.low_in};
-    polygon(look.vertical, FACE, {tip_in, low_in, high_in});
+    polygon(look.vertical, WORD_SHADOW, {tip_in, low_in, high_in});
     polygon(look.vertical, look.upper, {tip, high, high_in, tip_in});
     polygon(look.vertical, look.back, {high, low, low_in, high_in});
     polygon(look.vertical, look.lower, {tip, low, low_in, tip_in});

@@ -1,4 +1,5 @@
 #include "foundation/marks.h"
+#include "foundation/palette.h"
 
 #include <brask/fonts.h>
 

@@ -7,9 +7,6 @@ namespace brask {
 
 // Marks: characters that are not shown but act on the text after them.
 
-inline constexpr unsigned long WORD_BLACK = 1;
-inline constexpr unsigned long WORD_WHITE = 0xFFFFFF;
-
 enum class Face { current, regular, bold, oblique };
 struct Mark {
     int byte;

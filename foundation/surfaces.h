@@ -30,6 +30,16 @@ struct Host_Surfaces {
     static void forget(Tools& control, const DWORD* block);
 };
 
+// Shows the two views of a control that has others when it is down.
+template <typename Control>
+void choose_images(Control& control) {
+    const bool down = control.Cur_Value != 0;
+    control.Image_Normal = Host_Surfaces::current(control, Host_Surfaces::NORMAL,
+                                                  down ? control.Image_Normal_On : control.Image_Normal_Off);
+    control.Image_Select = Host_Surfaces::current(control, Host_Surfaces::SELECT,
+                                                  down ? control.Image_Select_On : control.Image_Select_Off);
+}
+
 } // namespace brask
 
 #endif

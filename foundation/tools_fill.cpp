@@ -3,6 +3,7 @@
 #include "foundation/bracket.h"
 #include "foundation/checks.h"
 #include "foundation/faces.h"
+#include "foundation/palette.h"
 #include "foundation/pixels.h"
 #include "foundation/surfaces.h"
 #include "foundation/trace.h"
@@ -11,8 +12,6 @@ using namespace brask;
 
 namespace {
 
-constexpr unsigned long HIGHLIGHT = 0x6464E6; // the selected look of a control without a surface
-
 // The fills in fixed colours: lamps and indicators.
 struct Fixed_Fill {
     const char* operation;
@@ -20,7 +19,7 @@ struct Fixed_Fill {
 };
 constexpr Fixed_Fill BLUE = {"Tools::Fill_Blue", 0xFF0000};
 constexpr Fixed_Fill GREEN = {"Tools::Fill_Green", 0xFF00};
-constexpr Fixed_Fill GREY = {"Tools::Fill_Grey", 0xAAAAAA};
+constexpr Fixed_Fill GREY = {"Tools::Fill_Grey", WORD_GREY};
 constexpr Fixed_Fill RED = {"Tools::Fill_Red", 0xFF};
 constexpr Fixed_Fill YELLOW = {"Tools::Fill_Yellow", 0xFFFF};
 
@@ -78,6 +77,6 @@ void Tools::Fill_Select(int on, const char* image, long flag, int inset, int x1,
                    right - 2 * Px(inset) - left + 1, top - 2 * Px(inset) - bottom + 1, Dim_X, Dim_Y, 0);
         return;
     }
-    Zeb_color(on ? HIGHLIGHT : Color.get());
+    Zeb_color(on ? WORD_HIGHLIGHT : Color.get());
     draw_fill_rectangle(left + inset, top - inset, right - inset + 1, bottom - 1 + inset);
 }

@@ -3,15 +3,13 @@
 #include <algorithm>
 
 #include "foundation/bracket.h"
+#include "foundation/palette.h"
 #include "foundation/pixels.h"
 #include "foundation/trace.h"
 
 using namespace brask;
 
 namespace {
-
-constexpr unsigned long BLACK = 1;
-constexpr unsigned long OUTLINE_BLUE = 0xE64040;
 
 constexpr int CONTRAST = 80;     // the greatest shade of a ring
 constexpr int SUNKEN_EXTRA = 40; // sunken frames are darker than raised ones are bright, on purpose
@@ -54,7 +52,7 @@ void Tools::Cadre(long flag, int dir, int width, int x1, int x2, int y1, int y2)
     Trace trace("Tools::Cadre", *this);
     Bracket bracket(*this, "Tools::Cadre");
     if (!(flag & CADRE_NO_LINE)) {
-        Zeb_color(BLACK);
+        Zeb_color(WORD_BLACK);
         draw_rectangle(x1, y2, x2, y1);
     }
     if (width < 1) return;
@@ -66,6 +64,6 @@ void Tools::Cadre(long flag, int dir, int width, int x1, int x2, int y1, int y2)
 void Tools::Cadre_Outline(int x1, int x2, int y1, int y2) {
     Trace trace("Tools::Cadre_Outline", *this);
     Bracket bracket(*this, "Tools::Cadre_Outline");
-    Zeb_color(OUTLINE_BLUE);
+    Zeb_color(WORD_OUTLINE);
     draw_rectangle(Px(x1) + 1, Px(y2) - 1, Px(x2) - 1, Px(y1) + 1);
 }

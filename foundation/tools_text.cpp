@@ -3,14 +3,13 @@
 #include "foundation/bracket.h"
 #include "foundation/compound.h"
 #include "foundation/marks.h"
+#include "foundation/palette.h"
 #include "foundation/text_place.h"
 #include "foundation/trace.h"
 
 using namespace brask;
 
 namespace {
-
-constexpr unsigned long OUTLINE_BLUE = 0xE64040;
 
 constexpr int MOST_STACKED = 128;
 
@@ -55,7 +54,7 @@ void write_stacked(const wchar_t* text, HFONT font, int height, int middle, Px y
 
 unsigned long text_color(long flag, unsigned int color) {
     if (color) return color;
-    if (flag & GRAPH_OUTLINE) return OUTLINE_BLUE;
+    if (flag & GRAPH_OUTLINE) return WORD_OUTLINE;
     return flag & TEXT_WHITE ? WORD_WHITE : WORD_BLACK;
 }
 

@@ -11,6 +11,7 @@
 #include "foundation/checks.h"
 #include "foundation/faces.h"
 #include "foundation/layout.h"
+#include "foundation/palette.h"
 #include "foundation/trace.h"
 #include "foundation/track.h"
 #include "items/checklist_geometry.h"
@@ -21,10 +22,6 @@ using namespace brask;
 namespace {
 
 constexpr DWORD BOX_MASK = 0x47771; // the flags that pass to the frame
-
-constexpr unsigned long BLACK = 1;
-constexpr unsigned long HIGHLIGHT = 0x6464E6;
-constexpr unsigned long OUTLINE_BLUE = 0xE64040;
 
 int count_of(const CheckLists& control) {
     return control.Check && control.Label && control.Box_State ? control.NbCheckBox : 0;
@@ -211,12 +208,12 @@ void draw_outlined(Buttons& box) {
 }
 
 void highlight(CheckLists& control, int index) {
-    write_label(control, index, HIGHLIGHT, "CheckLists::Select");
+    write_label(control, index, WORD_HIGHLIGHT, "CheckLists::Select");
     paint_face(control.Check[index], control.Check[index], true);
 }
 
 void unhighlight(CheckLists& control, int index) {
-    write_label(control, index, BLACK, "CheckLists::Select");
+    write_label(control, index, WORD_BLACK, "CheckLists::Select");
     paint_inside(control.Check[index], control.Check[index]);
 }
 
@@ -313,7 +310,7 @@ void CheckLists::Draw() {
     if (!(Flag & OUTIL_EMPTY)) Box.Draw();
     for (int i = 0; i < count_of(*this); i++) {
         const bool blue = outlined(*this) || outlined(Check[i]);
-        write_label(*this, i, blue ? OUTLINE_BLUE : BLACK, "CheckLists::Draw");
+        write_label(*this, i, blue ? WORD_OUTLINE : WORD_BLACK, "CheckLists::Draw");
         outlined(*this) ? draw_outlined(Check[i]) : draw_box(Check[i]);
     }
     trace.out(outlined(*this) ? "GRAPH_OUTLINE" : "");
@@ -362,7 +359,7 @@ void CheckLists::Deselect() {
         const HFONT font = font_of(*this);
         Setup setup(Wnd, "CheckLists::Deselect");
         for (int i = 0; i < count_of(*this); i++)
-            if (left_highlighted(*this, i)) write_text(*this, i, font, BLACK);
+            if (left_highlighted(*this, i)) write_text(*this, i, font, WORD_BLACK);
     }
     for (int i = 0; i < count_of(*this); i++) {
         if (!left_highlighted(*this, i)) continue;

@@ -2,17 +2,13 @@
 
 #include <brask/fenn.h>
 
+#include "foundation/palette.h"
 #include "items/tab_geometry.h"
 
 namespace brask {
 namespace {
 
-constexpr unsigned long WHITE = 0xFFFFFF;
-constexpr unsigned long LIGHT = 0xD8D8D8;
-constexpr unsigned long SHADOW = 0x6E6E6E;
-constexpr unsigned long BLACK = 1;
-constexpr unsigned long HIGHLIGHT_TOP = 0x6464E6; // the selected look of the tab on top, and of the others
-constexpr unsigned long HIGHLIGHT = 0x6464D2;
+constexpr unsigned long HIGHLIGHT_BELOW = 0x6464D2; // of a tab that is not on top
 
 // The lines that the face's corners lie on. The outer ends are those of the whole tab.
 struct Lines {
@@ -41,7 +37,7 @@ void line(Spot from, Spot to) {
 }
 
 unsigned long face_color(const TabItems& tab, bool selected) {
-    if (selected) return tab.Cur_Value ? HIGHLIGHT_TOP : HIGHLIGHT;
+    if (selected) return tab.Cur_Value ? WORD_HIGHLIGHT : HIGHLIGHT_BELOW;
     return tab.Cur_Value ? tab.Color.get() : darker(tab.Color);
 }
 
@@ -56,9 +52,9 @@ void paint_ground(const TabItems& tab, const Lines& l, int base) {
 }
 
 void paint_top_edge(const Lines& l) {
-    Zeb_color(WHITE);
+    Zeb_color(WORD_WHITE);
     line({l.x0 + 1, l.high}, {l.x1 - 1, l.high});
-    Zeb_color(LIGHT);
+    Zeb_color(WORD_LIGHT);
     line({l.x0 + 1, l.high - 1}, {l.x1 - 1, l.high - 1});
 }
 
@@ -66,12 +62,12 @@ void paint_left_edge(const TabItems& tab, const Lines& l) {
     const Px half = l.left + l.slant / 2;
     const bool full = left_end_full(tab);
     const Spot foot = full ? Spot{l.left, l.low} : Spot{half, l.mid};
-    Zeb_color(WHITE);
+    Zeb_color(WORD_WHITE);
     if (full)
         fill({foot, {l.left + 2, l.low - 1}, {l.x0 + 2, l.high - 1}, {l.x0, l.high}});
     else
         fill({foot, {half + 2, l.mid}, {l.x0 + 2, l.high}, {l.x0, l.high}});
-    Zeb_color(BLACK);
+    Zeb_color(WORD_BLACK);
     line(foot, {l.x0, l.high + 1});
 }
 
@@ -79,12 +75,12 @@ void paint_right_edge(const TabItems& tab, const Lines& l) {
     const Px half = l.right - l.slant / 2;
     const bool full = right_end_full(tab);
     const Spot foot = full ? Spot{l.right, l.low} : Spot{half, l.mid};
-    Zeb_color(SHADOW);
+    Zeb_color(WORD_SHADOW);
     if (full)
         fill({{l.x1, l.high}, {l.x1 - 2, l.high - 1}, {l.right - 2, l.low - 1}, foot});
     else
         fill({{l.x1, l.high}, {l.x1 - 2, l.high}, {half - 2, l.mid}, foot});
-    Zeb_color(BLACK);
+    Zeb_color(WORD_BLACK);
     line({l.x1, l.high + 1}, foot);
 }
 
@@ -94,7 +90,7 @@ void join_page(const TabItems& tab, const Lines& l) {
     line({l.left + 1, l.low - 1}, {l.right + 1, l.low - 1});
     line({l.left + 1, l.low - 2}, {l.right + 2, l.low - 2});
     line({l.left, l.low - 3}, {l.right + 3, l.low - 3});
-    Zeb_color(WHITE);
+    Zeb_color(WORD_WHITE);
     line({l.left + 1, l.low - 1}, {l.left + 1, l.low - 3});
 }
 

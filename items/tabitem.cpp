@@ -10,6 +10,7 @@
 #include "foundation/checks.h"
 #include "foundation/faces.h"
 #include "foundation/layout.h"
+#include "foundation/palette.h"
 #include "foundation/surfaces.h"
 #include "foundation/trace.h"
 #include "foundation/track.h"
@@ -21,12 +22,6 @@ using namespace brask;
 // A tab writes no traces but one exit.
 
 namespace {
-
-constexpr unsigned long WHITE = 0xFFFFFF;
-constexpr unsigned long LIGHT = 0xD8D8D8;
-constexpr unsigned long GREY = 0xAAAAAA;
-constexpr unsigned long BLACK = 1;
-constexpr unsigned long OUTLINE_BLUE = 0xE64040;
 
 int resolved_border(const TabItems& tab) { return tab.Border < 0 ? -Px(tab.Border) : Px(bevel_width(tab)); }
 
@@ -49,13 +44,6 @@ void choose_surfaces(TabItems& tab) {
     choose_views(tab, Host_Surfaces::SELECT, reshaped,
                  {&tab.Image_Select, &tab.Image_Select_On, &tab.Image_Select_Off});
     remember_surfaces(tab);
-}
-
-void choose_images(TabItems& tab) {
-    tab.Image_Normal = Host_Surfaces::current(tab, Host_Surfaces::NORMAL,
-                                              tab.Cur_Value ? tab.Image_Normal_On : tab.Image_Normal_Off);
-    tab.Image_Select = Host_Surfaces::current(tab, Host_Surfaces::SELECT,
-                                              tab.Cur_Value ? tab.Image_Select_On : tab.Image_Select_Off);
 }
 
 void write_title(TabItems& tab, DWORD flags, int y) {
@@ -185,10 +173,10 @@ int TabItems::Read() {
 
 void TabItems::Cadre(long, int value, int, int x0, int x1, int y0, int y1) {
     Bracket bracket(*this, "TabItems::Cadre");
-    Zeb_color(BLACK);
+    Zeb_color(WORD_BLACK);
     trapezoid(tab_outline(*this, {x0, x1, y0, y1}), !value);
-    base_line(value ? GREY : WHITE, x0, x1, y0);
-    base_line(value ? GREY : LIGHT, x0, x1, Px(y0) - 1);
+    base_line(value ? WORD_GREY : WORD_WHITE, x0, x1, y0);
+    base_line(value ? WORD_GREY : WORD_LIGHT, x0, x1, Px(y0) - 1);
 }
 
 void TabItems::Cadre_Outline(int x0, int x1, int y0, int y1) {
@@ -201,12 +189,12 @@ void TabItems::Cadre_Outline(int x0, int x1, int y0, int y1) {
     }
     Zeb_color(darker(Color));
     draw_fill_polygon(4, xs, ys);
-    Zeb_color(OUTLINE_BLUE);
+    Zeb_color(WORD_OUTLINE);
     draw_polygon(4, xs, ys);
-    Zeb_color(BLACK); // from where the pen is now, the base
+    Zeb_color(WORD_BLACK); // from where the pen is now, the base
     draw2s(xs[0], ys[0], 0);
-    base_line(WHITE, x0, x1, y0);
-    base_line(LIGHT, x0, x1, Px(y0) - 1);
+    base_line(WORD_WHITE, x0, x1, y0);
+    base_line(WORD_LIGHT, x0, x1, Px(y0) - 1);
 }
 
 void TabItems::Fill_Select(int selected, const char* surface, long flags, int inset, int x0, int x1, int y0,

@@ -6,6 +6,7 @@
 #include "foundation/checks.h"
 #include "foundation/compound.h"
 #include "foundation/layout.h"
+#include "foundation/palette.h"
 #include "foundation/pixels.h"
 #include "foundation/track.h"
 #include "items/item_array.h"
@@ -15,11 +16,6 @@ using namespace brask;
 // A strip writes no traces.
 
 namespace {
-
-constexpr unsigned long WHITE = 0xFFFFFF;
-constexpr unsigned long LIGHT = 0xD8D8D8;
-constexpr unsigned long SHADOW = 0x6E6E6E;
-constexpr unsigned long BLACK = 1;
 
 // How the ends of a tab are cut, see TabItems::Shape.
 constexpr unsigned char LEFT_FULL = 0x10;
@@ -105,21 +101,21 @@ struct Stroke {
 };
 constexpr Stroke PAGE_EDGES[] = {
     // outer bevel
-    {WHITE, false, LEFT_GAP, 0, TOP, 2},
+    {WORD_WHITE, false, LEFT_GAP, 0, TOP, 2},
     {KEEP, true, LEFT, 1, TOP, 2},
     {KEEP, true, LEFT, 1, BOTTOM, 1},
-    {SHADOW, true, RIGHT, -1, BOTTOM, 1},
-    {WHITE, true, RIGHT, -1, TOP, 2},
+    {WORD_SHADOW, true, RIGHT, -1, BOTTOM, 1},
+    {WORD_WHITE, true, RIGHT, -1, TOP, 2},
     {KEEP, true, RIGHT_GAP, 0, TOP, 2},
     // inner bevel
-    {LIGHT, false, LEFT_GAP, 0, TOP, 1},
+    {WORD_LIGHT, false, LEFT_GAP, 0, TOP, 1},
     {KEEP, true, LEFT, 2, TOP, 1},
     {KEEP, true, LEFT, 2, BOTTOM, 2},
-    {SHADOW, true, RIGHT, -2, BOTTOM, 2},
-    {LIGHT, true, RIGHT, -2, TOP, 1},
+    {WORD_SHADOW, true, RIGHT, -2, BOTTOM, 2},
+    {WORD_LIGHT, true, RIGHT, -2, TOP, 1},
     {KEEP, true, RIGHT_GAP, 0, TOP, 1},
     // outline
-    {BLACK, false, LEFT_GAP, 0, TOP, 3},
+    {WORD_BLACK, false, LEFT_GAP, 0, TOP, 3},
     {KEEP, true, LEFT, 0, TOP, 3},
     {KEEP, true, LEFT, 0, BOTTOM, 0},
     {KEEP, true, RIGHT, 0, BOTTOM, 0},
