@@ -15,27 +15,16 @@
 
 namespace {
 
-HWND window() {
-    static const HWND wnd = scene::make_window(DefWindowProcW);
-    return wnd;
-}
-
-void point_at(int x, int y) {
-    Zeb_setup(window(), "bench");
-    set_curs(x, layout::window_height - 1 - y);
-    Zeb_release();
-}
-
 // One notch of the wheel for each step, as a host hands it on; the rows in view are painted anew.
 void list_scroll(benchmark::State& state) {
     static std::map<int, std::unique_ptr<Long_List>> lists;
     auto& work = lists[static_cast<int>(state.range(0))];
     if (!work) {
         work = std::make_unique<Long_List>();
-        work->open(static_cast<int>(state.range(0)), window());
+        work->open(static_cast<int>(state.range(0)), scene::window());
     }
     Lists& list = work->list;
-    point_at(layout::list_width / 2, layout::list_height / 2);
+    scene::point_at(layout::list_width / 2, layout::list_height / 2);
     list.Draw();
     long step = 0;
     list.Scroll(layout::top_row(0) - work->top());
@@ -58,7 +47,7 @@ void list_open(benchmark::State& state) {
         const double grown = busy::seconds();
         work.name();
         const double named = busy::seconds();
-        work.list.Init(window());
+        work.list.Init(scene::window());
         work.list.Draw();
         time = grown - before + busy::seconds() - named;
         state.SetIterationTime(time);
@@ -75,10 +64,10 @@ void bar_drag(benchmark::State& state) {
     bar.Val_Max = 100;
     bar.Format = "%.1f", bar.Num_Width = 60;
     bar.Name_Set(L"Level");
-    bar.Init(window());
+    bar.Init(scene::window());
     bar.Draw();
     const auto to = [&](int x, int event) {
-        point_at(x, 13);
+        scene::point_at(x, 13);
         if (!bar.Select(event)) state.SkipWithError("a press goes on until its end");
         bar.Cur_Value = bar.Read();
         bar.Adjust();
@@ -104,9 +93,9 @@ void mode_switch(benchmark::State& state) {
     editor.Font_Size = 11;
     editor.Border = 2;
     editor.Cur_Value = 0xFF2080F0;
-    editor.Init(window());
+    editor.Init(scene::window());
     editor.Draw();
-    point_at(editor.Button_Mode.Pos_X + 5, 55);
+    scene::point_at(editor.Button_Mode.Pos_X + 5, 55);
     busy::measure(state, 1, [&] {
         const DWORD before = editor.Flag;
         editor.Select(16 + 2);
@@ -123,8 +112,8 @@ void strip_repaint(benchmark::State& state) {
     strip.Grow(12, 0);
     for (int i = 0; i < 12; i++)
         strip.Item[i]->Name_Set(L"Page %d", i);
-    point_at(-10, -10);
-    strip.Init(window());
+    scene::point_at(-10, -10);
+    strip.Init(scene::window());
     busy::measure(state, 1, [] { strip.Draw(); });
 }
 BENCHMARK(strip_repaint)->UseManualTime();

@@ -13,11 +13,6 @@
 
 namespace {
 
-HWND window() {
-    static const HWND wnd = scene::make_window(DefWindowProcW);
-    return wnd;
-}
-
 // A trace as every operation of a control makes it, with nobody listening.
 void unheard_report(benchmark::State& state) {
     for (auto _ : state)
@@ -54,7 +49,7 @@ void fresh_memset(benchmark::State& state, int width, int height) {
 
 void image_to_window(benchmark::State& state, int width, int height) {
     const std::vector<DWORD> image(static_cast<std::size_t>(width) * height, 0x808080);
-    Zeb_setup(window(), "bench");
+    Zeb_setup(scene::window(), "bench");
     for (auto _ : state)
         draw_image(reinterpret_cast<const char*>(image.data()), 0, 0, 0, 0, width, height, width, height, 0);
     Zeb_release();

@@ -24,6 +24,17 @@ HWND make_window(WNDPROC procedure) {
     return wnd;
 }
 
+HWND window() {
+    static const HWND wnd = make_window(DefWindowProcW);
+    return wnd;
+}
+
+void point_at(int x, int y) {
+    Zeb_setup(window(), "bench");
+    set_curs(x, layout::window_height - 1 - y);
+    Zeb_release();
+}
+
 Grid::Grid(HWND wnd) : wnd(wnd) {
     for (int i = 0; i < layout::count; i++) {
         const layout::Place at = layout::corner(i);

@@ -10,6 +10,9 @@ namespace scene {
 
 // The window of the comparison's size; it stays hidden, so that only its back buffer is painted.
 HWND make_window(WNDPROC procedure);
+// One for all measures of a program, and the pointer in it.
+HWND window();
+void point_at(int x, int y);
 
 class Grid {
   public:

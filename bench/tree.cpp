@@ -25,17 +25,6 @@ double seconds() {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-HWND window() {
-    static const HWND wnd = scene::make_window(DefWindowProcW);
-    return wnd;
-}
-
-void point_at(int x, int y) {
-    Zeb_setup(window(), "bench");
-    set_curs(x, layout::window_height - 1 - y);
-    Zeb_release();
-}
-
 // A folder "many" with all the sub-folders, alone in a folder of its own; removed at the end.
 class Many {
   public:
@@ -59,7 +48,7 @@ const Many& many() {
 
 void prepare(DirTrees& tree, const wchar_t* path) {
     tree.Dim_X = 500, tree.Dim_Y = 700;
-    tree.Init(window());
+    tree.Init(scene::window());
     tree.Set(path);
     tree.Draw();
 }
@@ -70,8 +59,8 @@ bool point_at_box(DirTrees& tree, const wchar_t* name) {
         if (std::wcscmp(tree.List[row].Node->name, name) != 0) continue;
         tree.Cursor_V.Cur_Value = static_cast<float>(row * row_height);
         const Boxs& area = tree.Box_Tree;
-        point_at(area.Pos_X + 2 * SPACE + cell * (tree.List[row].Depth - 1) + cell / 2,
-                 area.Pos_Y + area.Dim_Y - SPACE - cell / 2);
+        scene::point_at(area.Pos_X + 2 * SPACE + cell * (tree.List[row].Depth - 1) + cell / 2,
+                        area.Pos_Y + area.Dim_Y - SPACE - cell / 2);
         return true;
     }
     return false;
@@ -104,7 +93,7 @@ void tree_refresh(benchmark::State& state) {
     DirTrees tree;
     prepare(tree, (std::wstring(many().path) + L"\\many").c_str());
     const Buttons& button = tree.But_Refresh;
-    point_at(button.Pos_X + button.Dim_X / 2, button.Pos_Y + button.Dim_Y / 2);
+    scene::point_at(button.Pos_X + button.Dim_X / 2, button.Pos_Y + button.Dim_Y / 2);
     for (auto _ : state) {
         const double start = seconds();
         if (tree.Select(press) != 2) return state.SkipWithError("the button was not pressed");
@@ -137,7 +126,7 @@ void tree_scroll(benchmark::State& state) {
     }
     tree.Draw();
     tree.Cursor_V.Cur_Value = static_cast<float>(rows / 2 * row_height);
-    point_at(tree.Box_Tree.Pos_X + 100, tree.Box_Tree.Pos_Y + 100);
+    scene::point_at(tree.Box_Tree.Pos_X + 100, tree.Box_Tree.Pos_Y + 100);
     if (tree.NbList < rows) return state.SkipWithError("rows are missing");
     const float before = tree.Cursor_V.Cur_Value;
     tree.Scroll(-1);
