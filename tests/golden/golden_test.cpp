@@ -10,9 +10,9 @@ namespace {
 
 std::vector<Scene> all_scenes() {
     std::vector<Scene> all;
-    for (const auto* scenes :
-         {&BOX_SCENES, &LABEL_SCENES, &BUTTON_SCENES, &PART_SCENES, &VALUATOR_SCENES, &COLOR_SCENES,
-          &SLIDER_SCENES, &LIST_SCENES, &ITEM_SCENES, &ICON_SCENES, &CONSOLE_SCENES, &POPUP_SCENES})
+    for (const auto* scenes : {&BOX_SCENES, &LABEL_SCENES, &BUTTON_SCENES, &PART_SCENES, &VALUATOR_SCENES,
+                               &COLOR_SCENES, &SLIDER_SCENES, &LIST_SCENES, &ITEM_SCENES, &ICON_SCENES,
+                               &CONSOLE_SCENES, &POPUP_SCENES, &TREE_SCENES})
         all.insert(all.end(), scenes->begin(), scenes->end());
     return all;
 }

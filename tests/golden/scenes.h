@@ -15,6 +15,6 @@ struct Scene {
 extern const std::vector<Scene> BOX_SCENES, LABEL_SCENES, BUTTON_SCENES, PART_SCENES;
 extern const std::vector<Scene> VALUATOR_SCENES, COLOR_SCENES;
 extern const std::vector<Scene> SLIDER_SCENES, LIST_SCENES, ITEM_SCENES;
-extern const std::vector<Scene> ICON_SCENES, CONSOLE_SCENES, POPUP_SCENES;
+extern const std::vector<Scene> ICON_SCENES, CONSOLE_SCENES, POPUP_SCENES, TREE_SCENES;
 
 #endif

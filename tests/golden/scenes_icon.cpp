@@ -94,15 +94,10 @@ void symbols(Stage& stage) {
 
 // --- Files: those of this project, as they lie beside the programs ---
 
-wchar_t* installation() {
-    static wchar_t folder[] = L"" INSTALLATION;
-    return folder;
-}
-
 // Pictures of this size, small with a border and without, and large.
 template <std::size_t COUNT>
 void pictures(Stage& stage, const wchar_t* const (&names)[COUNT], int size) {
-    W_Inst_Path = installation();
+    W_Inst_Path = Stage::installation();
     Sheet sheet(stage);
     const int cell = size + 4, top = cell * ZOOM;
     Zeb_setup(stage.window(), "files");
@@ -136,7 +131,7 @@ struct Face {
 };
 
 void show(Stage& stage, const Face& face) {
-    const std::wstring folder = std::wstring(installation()) + L"Icons\\";
+    const std::wstring folder = std::wstring(Stage::installation()) + L"Icons\\";
     Buttons button;
     Stage::place(button, face.x, face.y, face.width, face.height, face.flag, face.name);
     button.Graph_Normal = button.Icon(folder.c_str(), face.file, Colors(170, 170, 170));

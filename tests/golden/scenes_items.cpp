@@ -105,14 +105,14 @@ void tabs_switched(Stage& stage) {
 }
 
 // Each way of cutting the ends, below and on top, in each look.
-void shapes(Stage& stage, DWORD flags, bool over) {
+void shapes(Stage& stage, DWORD flags, bool over, int slant = 10) {
     int y = 10;
     for (const int on_top : {0, 1}) {
         int x = 10;
         for (const int shape : {0x00, 0x01, 0x10, 0x11}) {
             TabItems tab;
             tab.Shape = static_cast<unsigned char>(shape);
-            tab.Slant = 10;
+            tab.Slant = slant;
             tab.Cur_Value = on_top;
             tab.Color = Colors(150, 170, 200);
             if (over) stage.point(x + 40, y + 10);
@@ -225,5 +225,8 @@ const std::vector<Scene> ITEM_SCENES = {
     {"tab_shapes_outline", 380, 80, [](Stage& s) { shapes(s, GRAPH_OUTLINE, false); }},
     {"tab_shapes_empty", 380, 80, [](Stage& s) { shapes(s, OUTIL_EMPTY, false); }},
     {"tab_shapes_disabled", 380, 80, [](Stage& s) { shapes(s, OUTIL_DISABLE, true); }},
+    {"tab_shapes_upright", 380, 80, [](Stage& s) { shapes(s, 0, false, 0); }},
+    {"tab_shapes_upright_hover", 380, 80, [](Stage& s) { shapes(s, 0, true, 0); }},
+    {"tab_shapes_upright_outline", 380, 80, [](Stage& s) { shapes(s, GRAPH_OUTLINE, false, 0); }},
     {"tab_picture", 100, 46, tab_picture},
 };

@@ -48,6 +48,11 @@ void Stage::point(int x, int y) {
 
 void Stage::point_away() { point(-1000, -1000); }
 
+wchar_t* Stage::installation() {
+    static wchar_t folder[] = L"" INSTALLATION;
+    return folder;
+}
+
 void Stage::place(Tools& control, int x, int y, int width, int height, DWORD flags, const wchar_t* name) {
     control.Pos_X = x;
     control.Pos_Y = y;

@@ -16,6 +16,9 @@ class Stage {
     void point(int x, int y);
     void point_away();
 
+    // The folder with the programs, and with the icon files beside them.
+    static wchar_t* installation();
+
     // Gives a control its place and flags, and its name as text, not as a format.
     static void place(Tools& control, int x, int y, int width, int height, DWORD flags = 0,
                       const wchar_t* name = nullptr);
