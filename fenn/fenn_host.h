@@ -16,7 +16,7 @@ FENN_API const DWORD* Fenn_Pixels(HWND wnd, int* width, int* height);
 
 // --- Reports ---
 // Receives each report that is listened to, formatted, with its marks. It is called by the thread that
-// reports, so by several at once if several do. What it reports itself is dropped.
+// reports, so by several at once if several do. What it reports itself is dropped. It may not throw.
 typedef void (*Fenn_Report)(void* user, HWND wnd, unsigned int code, const wchar_t* text);
 // Installs the one receiver; null gives the standard error stream back, one line of UTF-8 for each report.
 FENN_API void Fenn_Set_Report(Fenn_Report report, void* user);

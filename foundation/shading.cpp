@@ -4,11 +4,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#if defined(__x86_64__)
-#include <immintrin.h>
-#endif
-
 #include "foundation/pixels.h"
+#include "machine/wide_registers.h"
 
 namespace brask {
 
@@ -49,15 +46,9 @@ constexpr int EIGHT = 8;
 
 // --- Eight pixels at once, where the processor can. Exactly the same words as from the table. -------------
 
-#if defined(__x86_64__) && defined(__ELF__) // elsewhere the stack need not be aligned for such registers
-bool wide_registers() {
-    static const bool there = __builtin_cpu_supports("avx2");
-    return there;
-}
-
+#ifdef MACHINE_WIDE
 // At least eight pixels; the last eight overlap those before them.
-__attribute__((target("avx2"))) void shade_eights(DWORD* row, const float* across, float down, int count,
-                                                  DWORD color) {
+MACHINE_WIDE void shade_eights(DWORD* row, const float* across, float down, int count, DWORD color) {
     // Turned by 128 the channels are signed bytes, whose saturating sum stops just at the ends of the range.
     const __m256i turn = _mm256_set1_epi32(0x00808080);
     const __m256i base = _mm256_xor_si256(_mm256_set1_epi32(static_cast<int>(color)), turn);
@@ -73,7 +64,6 @@ __attribute__((target("avx2"))) void shade_eights(DWORD* row, const float* acros
     }
 }
 #else
-bool wide_registers() { return false; }
 void shade_eights(DWORD*, const float*, float, int, DWORD) {}
 #endif
 
@@ -106,7 +96,7 @@ void shade_rows(DWORD* pixels, const Look& look, const Inner& inner, Stretch str
 
 // Darkest at the upper left.
 void shade(DWORD* pixels, const Look& look, const Inner& inner) {
-    if (inner.width >= EIGHT && wide_registers()) {
+    if (inner.width >= EIGHT && machine::wide_registers()) {
         shade_rows(pixels, look, inner, [&](DWORD* row, const float* across, float down, int count) {
             shade_eights(row, across, down, count, look.color);
         });

@@ -7,6 +7,8 @@
 #include <immintrin.h>
 #endif
 
+#include "machine/wide_registers.h"
+
 namespace raster {
 namespace {
 
@@ -48,23 +50,17 @@ int mix_fours(std::uint32_t* to, const std::uint8_t* coverage, int count, std::u
 int mix_fours(std::uint32_t*, const std::uint8_t*, int, std::uint32_t) { return 0; }
 #endif
 
-#if defined(__x86_64__) && defined(__ELF__) // elsewhere the stack need not be aligned for such registers
-bool wide_registers() {
-    static const bool there = __builtin_cpu_supports("avx2");
-    return there;
-}
-
+#ifdef MACHINE_WIDE
 // One color and how much of it and of the ground there is, both bytes of a pair for each channel. The sum of
 // the two products is one operation when the colours are signed; turning them by 128 takes 128 * 255 from it.
-__attribute__((target("avx2"))) inline __m256i mix_pairs(__m256i colors, __m256i covers) {
+MACHINE_WIDE inline __m256i mix_pairs(__m256i colors, __m256i covers) {
     const __m256i sum = _mm256_maddubs_epi16(covers, colors);
     const __m256i raised = _mm256_add_epi16(sum, _mm256_set1_epi16(static_cast<short>(128 * 255 + 128)));
     return _mm256_mulhi_epu16(raised, _mm256_set1_epi16(SHIFTED_SUM));
 }
 
 // `turned` is the color in all eight pixels, each byte turned by 128.
-__attribute__((target("avx2"))) inline void mix_eight(std::uint32_t* to, std::uint64_t coverage,
-                                                      __m256i turned) {
+MACHINE_WIDE inline void mix_eight(std::uint32_t* to, std::uint64_t coverage, __m256i turned) {
     // Each coverage byte goes beside all four channels of its pixel.
     const __m256i channels = _mm256_set_epi8(12, 12, 12, 12, 8, 8, 8, 8, 4, 4, 4, 4, 0, 0, 0, 0, //
                                              12, 12, 12, 12, 8, 8, 8, 8, 4, 4, 4, 4, 0, 0, 0, 0);
@@ -78,8 +74,8 @@ __attribute__((target("avx2"))) inline void mix_eight(std::uint32_t* to, std::ui
     _mm256_storeu_si256(reinterpret_cast<__m256i*>(to), _mm256_packus_epi16(low, high));
 }
 
-__attribute__((target("avx2"))) void mix_wide(std::uint32_t* to, int pitch, const Eight* eights,
-                                              std::size_t count, std::uint32_t color) {
+MACHINE_WIDE void mix_wide(std::uint32_t* to, int pitch, const Eight* eights, std::size_t count,
+                           std::uint32_t color) {
     const __m256i turned = _mm256_set1_epi32(static_cast<int>(color ^ 0x80808080));
     for (const Eight* eight = eights; eight != eights + count; ++eight) {
         std::uint64_t coverage;
@@ -88,7 +84,6 @@ __attribute__((target("avx2"))) void mix_wide(std::uint32_t* to, int pitch, cons
     }
 }
 #else
-bool wide_registers() { return false; }
 void mix_wide(std::uint32_t*, int, const Eight*, std::size_t, std::uint32_t) {}
 #endif
 
@@ -100,7 +95,7 @@ void mix_row(std::uint32_t* to, const std::uint8_t* coverage, int count, std::ui
 }
 
 void mix_eights(std::uint32_t* to, int pitch, const Eight* eights, std::size_t count, std::uint32_t color) {
-    if (wide_registers()) return mix_wide(to, pitch, eights, count, color);
+    if (machine::wide_registers()) return mix_wide(to, pitch, eights, count, color);
     for (const Eight* eight = eights; eight != eights + count; ++eight)
         mix_row(to + static_cast<std::ptrdiff_t>(eight->y) * pitch + eight->x, eight->coverage, EIGHT, color);
 }

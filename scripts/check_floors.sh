@@ -8,12 +8,13 @@ cd "$(dirname "$0")/.."
 # are always allowed.
 rules() {
     cat <<'RULES'
+machine
 text
-raster
+raster       machine
 platform     raster text
 fenn         raster text platform brask/fenn.h brask/fenn_host.h brask/platform.h brask/export.h
 include      brask/
-foundation   text include brask/
+foundation   machine text include brask/
 controls     foundation text brask/
 items        controls foundation text brask/
 color        controls foundation text brask/
