@@ -51,8 +51,7 @@ inline void place_item(const Lists& list, int index) {
     item.Pos_Y = list.First_Y + Px(list.Step_Y) * index;
 }
 
-// Puts every item there; how many there are. Very many lie all over the memory, so the next ones are asked
-// for while the others are written.
+// Puts every item there; how many there are.
 int place_items(const Lists& list);
 
 // The items, from `begin` to before `end`, whose position may lie between the far ends of an area; only these
