@@ -16,6 +16,7 @@ constexpr unsigned REPORT_FONTS = 0x90004009;
 constexpr int SLOTS = 16;
 constexpr int NAME_ROOM = 80;
 constexpr int DEFAULT_SIZE = 12;
+constexpr const char* DEFAULT_NAME = "arial";
 constexpr float DESIGN_DPI = 96.0f; // a size is one at 96 dots per inch, whatever the display's scale
 constexpr float POINTS_PER_INCH = 72.0f;
 
@@ -24,6 +25,7 @@ struct Slot {
     HFONT font; // null while empty, and after a failure
     short size;
     char name[NAME_ROOM];
+    bool is_default; // the name is the one that a request without a name means
     char weight;
     char slant;
 };
@@ -50,24 +52,17 @@ class Locked {
 };
 
 // Only as much of a name as a slot holds is compared: a longer one must not miss its own slot for ever.
-bool is_named(const Slot& slot, const char* name) {
-    for (int i = 0; i < NAME_ROOM - 1; i++) {
-        if (slot.name[i] != name[i]) return false;
-        if (!name[i]) break;
-    }
-    return true;
-}
-
 bool matches(const Slot& slot, const char* name, char weight, char slant, int size) {
-    return slot.size == size && slot.weight == weight && slot.slant == slant && is_named(slot, name);
+    if (slot.size != size || slot.weight != weight || slot.slant != slant) return false;
+    return name ? !std::strncmp(slot.name, name, NAME_ROOM - 1) : slot.is_default;
 }
 
 // The number of the slot that holds the request, newest first; -1 when none does.
 int find(const char* name, char weight, char slant, int size) {
-    for (int back = 0; back < SLOTS; back++) {
-        const int number = (current - back + SLOTS) % SLOTS;
+    for (int number = current; number >= 0; number--)
         if (matches(slots[number], name, weight, slant, size)) return number;
-    }
+    for (int number = SLOTS - 1; number > current; number--)
+        if (matches(slots[number], name, weight, slant, size)) return number;
     return -1;
 }
 
@@ -119,7 +114,8 @@ const Slot& replace_oldest(const char* name, char weight, char slant, int size) 
     if (slot.font) DeleteObject(slot.font);
     slot = {};
     slot.size = static_cast<short>(size);
-    std::strncpy(slot.name, name, NAME_ROOM - 1);
+    std::strncpy(slot.name, name ? name : DEFAULT_NAME, NAME_ROOM - 1);
+    slot.is_default = !std::strcmp(slot.name, DEFAULT_NAME);
     slot.weight = weight;
     slot.slant = slant;
     return slot;
@@ -140,11 +136,10 @@ HFONT Zeb_Create_Font(HWND wnd, const char* name, const char* weight, const char
     int number;
     {
         Locked locked;
-        const char* key = name ? name : "arial";
         const char weight_key = key_of(weight, 'm'), slant_key = key_of(slant, 'r');
-        number = find(key, weight_key, slant_key, size);
+        number = find(name, weight_key, slant_key, size);
         if (number >= 0) return trace.out("old font:", number, slots[number].font);
-        replace_oldest(key, weight_key, slant_key, size);
+        replace_oldest(name, weight_key, slant_key, size);
         number = current;
         description = describe(wnd, name, weight, slant, size);
         font = slots[number].font = CreateFontIndirectW(&description);

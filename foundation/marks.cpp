@@ -50,16 +50,30 @@ Mark_Fonts mark_fonts(const Tools& control) {
 bool Runs::next() {
     length = 0;
     mark = nullptr;
+    if (rest_is_plain()) return length;
     while (*at && !mark && !full()) {
         const wchar_t c = *at++;
-        mark = mark_of(c);
+        mark = is_plain(c) ? nullptr : find_mark(static_cast<int>(c) & 255);
         if (mark && mark->color && skip_colors)
             mark = nullptr;
         else if (!mark)
-            text[length++] = c;
+            piece[length++] = c;
     }
-    text[length] = 0;
+    piece[length] = 0;
+    text = piece;
     return length || mark;
+}
+
+// Most text has no marks, and is handed on as it stands.
+bool Runs::rest_is_plain() {
+    const wchar_t* end = at;
+    while (is_plain(*end) && end - at < ROOM - 2)
+        ++end;
+    if (*end) return false;
+    text = at;
+    length = static_cast<int>(end - at);
+    at = end;
+    return true;
 }
 
 // The last place is kept for the second half of a surrogate pair, which is not to be parted.

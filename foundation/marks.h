@@ -17,9 +17,10 @@ struct Mark {
 // Null for what is text. Only the low byte is looked at, so that some letters act as marks and cannot be
 // shown: required so.
 const Mark* find_mark(int byte);
-inline const Mark* mark_of(wchar_t c) {
+// Nearly every letter is; neither a mark nor the text's end.
+inline bool is_plain(wchar_t c) {
     const int byte = static_cast<int>(c) & 255;
-    return byte > 6 && byte < 240 ? nullptr : find_mark(byte); // nearly every letter is in between
+    return byte > 6 && byte < 240;
 }
 
 // The fonts that the marks choose among, and the one that text begins in.
@@ -38,7 +39,7 @@ class Runs {
     explicit Runs(const wchar_t* text, bool by_font_only = false) : at(text), skip_colors(by_font_only) {}
 
     static constexpr int ROOM = 1024; // of the text written at once; longer runs come in pieces
-    wchar_t text[ROOM];
+    const wchar_t* text = nullptr;
     int length = 0;
     const Mark* mark = nullptr; // the one that ended the run; null at the end, and between pieces
 
@@ -46,10 +47,12 @@ class Runs {
     bool next();
 
   private:
+    bool rest_is_plain();
     bool full() const;
 
     const wchar_t* at;
     bool skip_colors;
+    wchar_t piece[ROOM];
 };
 
 } // namespace brask
