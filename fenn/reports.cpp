@@ -47,11 +47,13 @@ bool is_heard(unsigned int code) {
 constexpr int longest = 2048;
 
 // Prints a line for the terminal: the marks for colours and fonts and all other control characters left out,
-// so that a name cannot steer the terminal; line ends inside become blanks. No allocation, since the report
+// so that a name cannot steer the terminal; line ends inside become blanks. The marks for fonts are letters
+// as well: they are left out only where a report puts them, at its beginning. No allocation, since the report
 // may be about memory; in one piece, so that lines of several threads do not mix.
 void print_report(const wchar_t* text) {
     char line[longest * 4];
     int size = 0;
+    if (*text >= 240 && *text <= 242) ++text;
     while (const char32_t code = text::next(text)) {
         if (code == '\n' || code == '\t')
             line[size++] = ' ';

@@ -30,6 +30,7 @@ void paint_cut(const Canvas& canvas, const Rect& area, std::int64_t x, std::int6
 
 Ink make_ink(const std::uint8_t* coverage, int width, int height, int pitch) {
     Ink ink{width, height, {}};
+    if (width < 1) return ink; // then there may be no coverage to step through either
     const std::uint8_t* row = coverage;
     for (int y = 0; y < height; ++y, row += pitch) {
         int x = 0;

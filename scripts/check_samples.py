@@ -35,6 +35,8 @@ extern int word, x, y;
 extern Buttons button;
 extern Labels label;
 extern Sliders slider;
+extern Lists list;
+extern int height;
 extern Boxs box;
 """
 

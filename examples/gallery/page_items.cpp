@@ -71,9 +71,17 @@ class ListSection {
         for (int i = 0; i < count; i++)
             list.Item[i]->Name_Set(item, i + 1);
     }
+    // Where item 0 of a list stands that is not scrolled.
+    static float origin(const Lists& list) {
+        return list.Flag & OUTIL_VERTICAL ? list.Slider.Val_Max : list.Slider.Val_Min;
+    }
+    // Init keeps the place of item 0 in the window; a user expects the same items in a window of another
+    // size.
     static void place(Lists& list, HWND wnd, const Area& area) {
+        const float scrolled = list.Slider.Cur_Value - origin(list);
         area.give(list);
         list.Init(wnd);
+        list.Slider.Cur_Value = origin(list) + scrolled;
     }
 
     Panel panel{L"Lists"};

@@ -219,6 +219,7 @@ class BarSection {
         for (std::size_t i = 0; i < COUNT; i++) {
             set_range(bars[i], samples[i]);
             bars[i].Flag |= name_place;
+            if (!samples[i].format) bars[i].Border = BORDER; // given, it wipes a dragged thumb's edges
             bars[i].Format = samples[i].format;
             bars[i].Num_Width = samples[i].format ? 2 * NUM_DIM : 0;
             bars[i].Name_Set(L"%ls", samples[i].name);

@@ -52,7 +52,7 @@ class BRASK_API Lists : public Tools {
     // counts as 0. Call Init afterwards.
     int Grow(int n, int flag);
     // Lays out frame, slider and items. wnd null keeps the window. Call it after any change of the items,
-    // their names, the size or the font. The scroll position stays.
+    // their names, the size or the font. The slider's value stays, as far as its new range allows.
     void Init(HWND wnd);
     // Paints the whole list. Needs Init.
     void Draw();

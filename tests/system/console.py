@@ -6,8 +6,7 @@ import subprocess
 import sys
 
 from display import wait_for
-from pages import Session
-from pictures import differences
+from pages import Session, other, same, settled
 from values import tab
 
 LINE, BORDER, GAP, CURSEUR = 16, 3, 6, 16
@@ -40,30 +39,6 @@ def log(session):
     control = session.controls["command-line", ""]
     return session.window.picture().crop(control.x, control.down(control.y + control.height), control.width,
                                          control.height - 60)
-
-
-def settled(look):
-    """The picture when it has come to rest."""
-    last = [None]
-
-    def rest():
-        before, last[0] = last[0], look().rows
-        return last[0] == before
-
-    wait_for(rest, 5)
-    return look()
-
-
-def same(session, name, look, wanted):
-    wait_for(lambda: look().rows == wanted.rows, 5)
-    found = look()
-    place = next(differences(wanted, found), None)
-    session.tally.check(f"{session.system.name} {name}", place and f"first difference at {place}", found=found,
-                        wanted=wanted)
-
-
-def other(session, name, look, before):
-    session.check(name, None if wait_for(lambda: look().rows != before.rows, 5) else "nothing changed")
 
 
 def keeps(session, name, look):

@@ -18,7 +18,7 @@ def items(tally, system, display):
     session = Session(tally, system, display, "--builtin-font")
     try:
         tab(session, "Items")
-        for scene in (fitting, scrolling, dragged, arrow, side_by_side, columns, disabled, mask, colored, exclusive,
+        for scene in (resized, fitting, scrolling, dragged, arrow, side_by_side, columns, disabled, mask, colored, exclusive,
                       spinner, skipping, upright, unmoved):
             scene(session)
         session.window.key("Escape")
@@ -54,6 +54,15 @@ def shows(session, name, item, *look):
 def click(session, item):
     session.window.move(*item.spot())
     session.press()
+
+
+def resized(session):
+    """A list that shows its first rows goes on doing so in a window of another size."""
+    for height in (SIZE[1] - 200, SIZE[1]):
+        session.window.resize(SIZE[0], height)
+        session.controls = session.system.layout(SIZE[0], height)
+        shows(session, f"last of eight in a window of {height}", rows(session, "All fit", 8)[7], 0)
+        shows(session, f"fourth of many in a window of {height}", rows(session, "Ten thousand", MANY)[3], 1)
 
 
 def fitting(session):

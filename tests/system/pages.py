@@ -143,6 +143,30 @@ class Session:
             self.window.release(button)
 
 
+def settled(look):
+    """The picture when it has come to rest."""
+    last = [None]
+
+    def rest():
+        before, last[0] = last[0], look().rows
+        return last[0] == before
+
+    wait_for(rest, 5)
+    return look()
+
+
+def same(session, name, look, wanted):
+    wait_for(lambda: look().rows == wanted.rows, 5)
+    found = look()
+    place = next(differences(wanted, found), None)
+    session.tally.check(f"{session.system.name} {name}", place and f"first difference at {place}", found=found,
+                        wanted=wanted)
+
+
+def other(session, name, look, before):
+    session.check(name, None if wait_for(lambda: look().rows != before.rows, 5) else "nothing changed")
+
+
 def basics(tally, system, display):
     session = Session(tally, system, display)
     try:

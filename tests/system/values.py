@@ -3,7 +3,7 @@
 import colorsys
 
 from display import wait_for
-from pages import SIZE, Session
+from pages import SIZE, Session, other, same, settled
 from rules import BLACK, GREY, RED
 
 THUMB, LIGHT, LOCKED = (110, 110, 110), (216, 216, 216), (64, 64, 230)
@@ -54,7 +54,7 @@ def values(tally, system, display):
     session = Session(tally, system, display)
     try:
         tab(session, "Values")
-        for scene in (captured, loose, arrows, wheel, dragged, locked):
+        for scene in (captured, loose, arrows, wheel, dragged, locked, unstained):
             scene(session)
         tab(session, "Colour")
         for scene in (red, mode, hue):
@@ -172,6 +172,24 @@ def locked(session):
     session.shows("locked bar under the pointer", [((left - 4, track.row - 6), RED), *look])
     window.release()
     session.check("number of the locked bar", number(session, track) != before and "it changed")
+
+
+def unstained(session):
+    """What was dragged looks as if it had stood there from the start: nothing of the old thumbs is left."""
+    control, window = session.controls["bar", "Up"], session.window
+    before = settled(window.picture)
+    column = control.x + control.width // 2
+    window.move(column, control.down(control.y + control.height // 4))
+    window.press()
+    for part in (0.5, 0.75):
+        window.move(column, control.down(control.y + int(control.height * part)))
+    window.release()
+    away(session)
+    other(session, "bar dragged upward", window.picture, before)
+    there = settled(window.picture)
+    tab(session, "Basics")
+    tab(session, "Values")
+    same(session, "page of values drawn anew", window.picture, there)
 
 
 def driven(color):
