@@ -98,12 +98,49 @@ void set_range(Control& control, const Sample& sample) {
     control.Cur_Value = sample.value;
 }
 
+// A panel of controls of one kind, some lying and some standing.
+template <typename Control>
+class Ranges {
+  public:
+    Ranges(const wchar_t* title, const char* kind, std::size_t lying, std::size_t standing)
+        : panel(title), lying(lying), standing(standing), kind(kind) {}
+    void draw() {
+        panel.draw();
+        for (std::vector<Control>* controls : {&lying, &standing})
+            for (Control& control : *controls)
+                control.Draw();
+    }
+    void pointer(int word) {
+        for (std::vector<Control>* controls : {&lying, &standing})
+            for (Control& control : *controls)
+                take_value(control, word);
+    }
+    void wheel(int notches) {
+        turn_wheel(lying, notches);
+        turn_wheel(standing, notches);
+    }
+    void each(const Visitor& visit) const {
+        panel.each(visit);
+        for (const std::vector<Control>* controls : {&lying, &standing})
+            for (const Control& control : *controls)
+                visit(kind, control);
+    }
+
+  protected:
+    Panel panel;
+    std::vector<Control> lying, standing;
+
+  private:
+    const char* kind;
+};
+
 // --- Sliders ----------------------------------------------------------------------------------------------
 
-class SliderSection {
+class SliderSection : public Ranges<Sliders> {
   public:
     SliderSection()
-        : lying(std::size(lying_sliders)), standing(std::size(standing_sliders)), captions(lying.size()) {
+        : Ranges(L"Sliders", "slider", std::size(lying_sliders), std::size(standing_sliders)),
+          captions(lying.size()) {
         for (std::size_t i = 0; i < lying.size(); i++) {
             set_range(lying[i], lying_sliders[i]);
             lying[i].Step = 5;
@@ -133,27 +170,9 @@ class SliderSection {
         }
     }
     void draw() {
-        panel.draw();
+        Ranges::draw();
         for (Labels& caption : captions)
             caption.Draw();
-        for (std::vector<Sliders>* sliders : {&lying, &standing})
-            for (Sliders& slider : *sliders)
-                slider.Draw();
-    }
-    void pointer(int word) {
-        for (std::vector<Sliders>* sliders : {&lying, &standing})
-            for (Sliders& slider : *sliders)
-                take_value(slider, word);
-    }
-    void wheel(int notches) {
-        turn_wheel(lying, notches);
-        turn_wheel(standing, notches);
-    }
-    void each(const Visitor& visit) const {
-        panel.each(visit);
-        for (const std::vector<Sliders>* sliders : {&lying, &standing})
-            for (const Sliders& slider : *sliders)
-                visit("slider", slider);
     }
 
   private:
@@ -164,16 +183,14 @@ class SliderSection {
         slider.Init(wnd);
     }
 
-    Panel panel{L"Sliders"};
-    std::vector<Sliders> lying, standing;
     std::vector<Labels> captions;
 };
 
 // --- Value bars -------------------------------------------------------------------------------------------
 
-class BarSection {
+class BarSection : public Ranges<Valuators> {
   public:
-    BarSection() : lying(std::size(lying_bars)), standing(std::size(standing_bars)) {
+    BarSection() : Ranges(L"Value bars", "bar", std::size(lying_bars), std::size(standing_bars)) {
         fill(lying, lying_bars, TEXT_LEFT);
         fill(standing, standing_bars, TEXT_TOP);
     }
@@ -189,27 +206,6 @@ class BarSection {
             Area row = column.cell(0, 1, int(i), int(lying.size()));
             place(lying[i], lying_bars[i], wnd, row.cut_top(row.height < 36 ? row.height : 36));
         }
-    }
-    void draw() {
-        panel.draw();
-        for (std::vector<Valuators>* bars : {&lying, &standing})
-            for (Valuators& bar : *bars)
-                bar.Draw();
-    }
-    void pointer(int word) {
-        for (std::vector<Valuators>* bars : {&lying, &standing})
-            for (Valuators& bar : *bars)
-                take_value(bar, word);
-    }
-    void wheel(int notches) {
-        turn_wheel(lying, notches);
-        turn_wheel(standing, notches);
-    }
-    void each(const Visitor& visit) const {
-        panel.each(visit);
-        for (const std::vector<Valuators>* bars : {&lying, &standing})
-            for (const Valuators& bar : *bars)
-                visit("bar", bar);
     }
 
   private:
@@ -230,9 +226,6 @@ class BarSection {
         if (sample.picture == Picture::ramp) paint_ramp(bar);
         bar.Init(wnd);
     }
-
-    Panel panel{L"Value bars"};
-    std::vector<Valuators> lying, standing;
 };
 
 // --- The page ---------------------------------------------------------------------------------------------
