@@ -10,6 +10,9 @@ if(BRASK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+if(BRASK_FUZZER)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 # Controls make many small calls across files: inlining them takes a quarter off a bevel. The objects of the archives
 # stay usable for other linkers.
 if(NOT WIN32 AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
