@@ -35,7 +35,9 @@ Metrics metrics_of(const Texts& console) {
     if (font && font == last_measured.font) return last_measured;
     Setup setup(console.Wnd, "Texts::Init");
     const int height = Zeb_Font_Size_Height(font);
-    return last_measured = {font, Zeb_Font_Size_String(font, L"H"), height};
+    const Metrics measured = {font, Zeb_Font_Size_String(font, L"H"), height};
+    if (measured.height && measured.width) last_measured = measured; // else memory was short
+    return measured;
 }
 
 // The front half alone: required so. What stands behind it stays behind its terminator.

@@ -34,19 +34,23 @@ void paint_face(Boxs& box, bool selected) {
 }
 
 // Chooses between the host's surfaces and generated faces, and makes those that changed. `wnd` is the
-// argument of Init.
-void choose_surfaces(Boxs& box, HWND wnd) {
+// argument of Init. False: memory was short for one.
+bool choose_surfaces(Boxs& box, HWND wnd) {
+    bool whole = true;
     const Anew anew = surfaces_anew(box, wnd);
     if (box.Graph_Normal && anew.normal) box.Image_Normal = box.Graph_Normal;
     if (box.Graph_Select && anew.select) box.Image_Select = box.Graph_Select;
     if (!box.Graph_Normal && (anew.normal || recolored(box) || faces::outgrown(box.Box_Normal, box))) {
         box.Box_Normal = faces::drop(box.Box_Normal);
         box.Image_Normal = box.Box_Normal = faces::ask(box, box.Color);
+        whole = box.Box_Normal != nullptr;
     }
     if (!box.Graph_Select && (anew.select || faces::outgrown(box.Box_Select, box))) {
         box.Box_Select = faces::drop(box.Box_Select);
         box.Image_Select = box.Box_Select = faces::ask(box, highlight());
+        whole = whole && box.Box_Select;
     }
+    return whole;
 }
 
 } // namespace
@@ -96,8 +100,9 @@ void Boxs::Init(HWND wnd) {
         remember_shape(*this);
         return trace.out("OUTIL_EMPTY");
     }
-    choose_surfaces(*this, wnd);
+    const bool whole = choose_surfaces(*this, wnd);
     remember_shape(*this);
+    if (!whole) forget_shape(*this);
     remember_surfaces(*this);
 }
 

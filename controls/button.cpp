@@ -34,17 +34,19 @@ void drop_faces(Buttons& button) {
         button.*face = faces::drop(button.*face);
 }
 
-// Both faces of one look, for an up and a down button.
-void remake(const Buttons& button, DWORD*& off, DWORD*& on, const Colors& color_off, const Colors& color_on) {
+// Both faces of one look, for an up and a down button; false: memory was short for one.
+bool remake(const Buttons& button, DWORD*& off, DWORD*& on, const Colors& color_off, const Colors& color_on) {
     off = faces::drop(off);
     on = faces::drop(on);
     off = faces::ask(button, color_off);
     on = faces::ask(button, color_on);
+    return off && on;
 }
 
 // Chooses between the host's surfaces and generated faces, and makes those that changed. `wnd` is the
-// argument of Init.
-void choose_surfaces(Buttons& b, HWND wnd) {
+// argument of Init. False: memory was short for one.
+bool choose_surfaces(Buttons& b, HWND wnd) {
+    bool whole = true;
     const Anew anew = surfaces_anew(b, wnd);
     const auto outgrown = [&b](DWORD* off, DWORD* on) {
         return faces::outgrown(off, b) || faces::outgrown(on, b);
@@ -54,15 +56,16 @@ void choose_surfaces(Buttons& b, HWND wnd) {
     if (b.Graph_Select && anew.select)
         b.Image_Select = b.Image_Select_Off = b.Image_Select_On = b.Graph_Select;
     if (!b.Graph_Normal && (anew.normal || recolored(b) || outgrown(b.Own_Normal_Off, b.Own_Normal_On))) {
-        remake(b, b.Own_Normal_Off, b.Own_Normal_On, b.Color, down(b.Color));
+        whole = remake(b, b.Own_Normal_Off, b.Own_Normal_On, b.Color, down(b.Color));
         b.Image_Normal_Off = b.Own_Normal_Off;
         b.Image_Normal_On = b.Own_Normal_On;
     }
     if (!b.Graph_Select && (anew.select || outgrown(b.Own_Select_Off, b.Own_Select_On))) {
-        remake(b, b.Own_Select_Off, b.Own_Select_On, highlight(), highlight_down());
+        whole = remake(b, b.Own_Select_Off, b.Own_Select_On, highlight(), highlight_down()) && whole;
         b.Image_Select_Off = b.Own_Select_Off;
         b.Image_Select_On = b.Own_Select_On;
     }
+    return whole;
 }
 
 using Fill = void (Tools::*)(int, int, int, int);
@@ -169,9 +172,10 @@ void Buttons::Init(HWND wnd) {
         remember_shape(*this);
         return trace.out("OUTIL_EMPTY");
     }
-    choose_surfaces(*this, wnd);
+    const bool whole = choose_surfaces(*this, wnd);
     choose_images(*this);
     remember_shape(*this);
+    if (!whole) forget_shape(*this);
     remember_surfaces(*this);
 }
 

@@ -5,11 +5,11 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
-#include <new>
 
 #include <brask/fenn.h>
 
 #include "fenn/system.h"
+#include "text/guarded.h"
 
 namespace fenn {
 namespace {
@@ -45,24 +45,20 @@ Dir_Ulmen* make_list(const Folders& folders) {
 } // namespace
 } // namespace fenn
 
-FENN_API Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count) try {
+FENN_API Dir_Ulmen* Scan_Dir(const wchar_t* folder, int* count) {
     if (count) *count = 0;
-    fenn::Folders folders;
-    if (!fenn::list_folders(folder, folders)) return nullptr;
-    fenn::sort(folders);
-    Dir_Ulmen* const list = fenn::make_list(folders);
-    if (list && count) *count = static_cast<int>(std::min<std::size_t>(folders.entries.size(), INT_MAX));
-    return list;
-} catch (const std::bad_alloc&) {
-    errno = ENOMEM;
-    return nullptr;
+    return text::guarded<Dir_Ulmen*>(nullptr, [=]() -> Dir_Ulmen* {
+        fenn::Folders folders;
+        if (!fenn::list_folders(folder, folders)) return nullptr;
+        fenn::sort(folders);
+        Dir_Ulmen* const list = fenn::make_list(folders);
+        if (list && count) *count = static_cast<int>(std::min<std::size_t>(folders.entries.size(), INT_MAX));
+        return list;
+    });
 }
 
 FENN_API void Scan_Free(Dir_Ulmen* list) { std::free(list); }
 
-FENN_API int Is_Tree(const wchar_t* path) try {
-    return fenn::has_folder(path);
-} catch (const std::bad_alloc&) {
-    errno = ENOMEM;
-    return 0;
+FENN_API int Is_Tree(const wchar_t* path) {
+    return text::guarded(0, [=] { return static_cast<int>(fenn::has_folder(path)); });
 }

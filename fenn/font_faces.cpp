@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <new>
 #include <tuple>
 #include <vector>
 
@@ -52,14 +53,22 @@ bool is_same(const FontFile& a, const FontFile& b) {
     return a.path == b.path && a.index == b.index && a.embolden == b.embolden && a.slant == b.slant;
 }
 
+// An answer that only memory was short for must not be kept.
+void need_memory(FT_Error error) {
+    if (error == FT_Err_Out_Of_Memory) throw std::bad_alloc();
+}
+
 int open_file(const FontFile& file) {
     Faces& all = faces();
     if (file.path.empty() || !all.library) return NO_FACE;
     for (std::size_t i = 0; i < all.opened.size(); ++i)
         if (is_same(all.opened[i].file, file)) return all.opened[i].ft ? static_cast<int>(i) : NO_FACE;
-    FT_Face ft = nullptr;
-    if (FT_New_Face(all.library, file.path.c_str(), file.index, &ft)) ft = nullptr;
-    all.opened.push_back({file, ft, 0});
+    all.opened.push_back({file, nullptr, 0});
+    FT_Face& ft = all.opened.back().ft;
+    const FT_Error error = FT_New_Face(all.library, file.path.c_str(), file.index, &ft);
+    if (error) ft = nullptr;
+    if (error == FT_Err_Out_Of_Memory) all.opened.pop_back();
+    need_memory(error);
     return ft ? static_cast<int>(all.opened.size()) - 1 : NO_FACE;
 }
 
@@ -116,11 +125,15 @@ FT_Face face_at(int face, int em) {
 void draw_face_glyph(int face, int em, int ascent, std::uint32_t glyph, Glyph& out) {
     const FT_Face ft = face_at(face, em);
     const FontFile& file = faces().opened[static_cast<std::size_t>(face)].file;
-    if (FT_Load_Glyph(ft, glyph, FT_LOAD_DEFAULT)) return;
+    FT_Error error = FT_Load_Glyph(ft, glyph, FT_LOAD_DEFAULT);
+    need_memory(error);
+    if (error) return;
     out.advance = static_cast<int>((ft->glyph->advance.x + 32) >> 6);
     if (file.embolden) FT_GlyphSlot_Embolden(ft->glyph);
     if (file.slant) FT_GlyphSlot_Oblique(ft->glyph);
-    if (FT_Render_Glyph(ft->glyph, FT_RENDER_MODE_NORMAL)) return;
+    error = FT_Render_Glyph(ft->glyph, FT_RENDER_MODE_NORMAL);
+    need_memory(error);
+    if (error) return;
     if (ft->glyph->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY) return;
     copy_bitmap(ft->glyph->bitmap, out.shape);
     out.shape.left = ft->glyph->bitmap_left;

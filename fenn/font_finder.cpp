@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <tuple>
+#include <utility>
 
 #include <fontconfig/fontconfig.h>
 
@@ -74,6 +75,7 @@ struct FinderEnd {
 } finder_end;
 
 Finder& finder() {
+    if (only && !only->config) delete std::exchange(only, nullptr); // memory may be there now
     if (!only) only = new Finder;
     return *only;
 }

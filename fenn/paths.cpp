@@ -6,6 +6,7 @@
 #include <brask/fenn.h>
 
 #include "fenn/system.h"
+#include "text/guarded.h"
 
 // Paths in the library's form: drive letters and "\"; "/" is accepted wherever a path comes in.
 
@@ -92,12 +93,14 @@ const char* ending_of(const char* file, const char* end) {
 
 FENN_API int Path_To_Abs(wchar_t* path) {
     if (!path) return 0;
-    std::wstring whole = *path ? path : L".";
-    if (!fenn::complete(whole)) return 0;
-    whole = fenn::resolve(whole);
-    if (whole.size() >= fenn::path_size) return 0;
-    std::wmemcpy(path, whole.c_str(), whole.size() + 1);
-    return 1;
+    return text::guarded(0, [=] {
+        std::wstring whole = *path ? path : L".";
+        if (!fenn::complete(whole)) return 0;
+        whole = fenn::resolve(whole);
+        if (whole.size() >= fenn::path_size) return 0;
+        std::wmemcpy(path, whole.c_str(), whole.size() + 1);
+        return 1;
+    });
 }
 
 FENN_API void Get_Generic_Name(char* path, char* folder, char* file, char* bare) {

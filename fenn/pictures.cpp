@@ -2,9 +2,9 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <new>
 
 #include "fenn/system.h"
+#include "text/guarded.h"
 
 namespace fenn {
 namespace {
@@ -57,17 +57,16 @@ class FileBytes {
     std::size_t size_ = 0, room_ = 0;
 };
 
-int read_picture(const wchar_t* file, IGB_data* image, bool (*decode)(PictureBytes, IGB_data&)) try {
+int read_picture(const wchar_t* file, IGB_data* image, bool (*decode)(PictureBytes, IGB_data&)) {
     if (!image) {
         errno = EINVAL;
         return 0;
     }
     *image = {};
-    FileBytes content;
-    return content.read(file) && decode(content.bytes(), *image);
-} catch (const std::bad_alloc&) {
-    errno = ENOMEM;
-    return 0;
+    return text::guarded(0, [=]() -> int {
+        FileBytes content;
+        return content.read(file) && decode(content.bytes(), *image);
+    });
 }
 
 } // namespace

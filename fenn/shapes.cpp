@@ -8,6 +8,7 @@
 
 #include "fenn/painter.h"
 #include "raster/images.h"
+#include "text/guarded.h"
 
 // Lines, rectangles, polygons and pictures: from the contract's coordinates and words to the raster's.
 
@@ -42,6 +43,19 @@ class Points {
     std::vector<raster::Point> many;
     raster::Point* at;
 };
+
+int fill_polygon(const Bracket& on, int count, const int* xs, const int* ys) {
+    const Points points(on, count, xs, ys);
+    raster::fill_polygon(on.canvas, on.clip, points.data(), count, pixel_of(Current_Color));
+    raster::Rect all = bounds(points.data()[0], points.data()[0]);
+    for (int i = 1; i < count; ++i) {
+        const raster::Point point = points.data()[i];
+        all = {std::min(all.left, point.x), std::min(all.top, point.y), std::max(all.right, point.x + 1),
+               std::max(all.bottom, point.y + 1)};
+    }
+    changed(all);
+    return count;
+}
 
 // One axis of a picture: the part of the window `size` from `source` that lies in the image.
 struct Stretch {
@@ -98,15 +112,7 @@ FENN_API void draw_polygon(int count, const int* xs, const int* ys) {
 FENN_API void draw_fill_polygon(int count, const int* xs, const int* ys) {
     const Bracket* const on = bracket();
     if (!on || count < 1 || !xs || !ys) return;
-    const Points points(*on, count, xs, ys);
-    raster::fill_polygon(on->canvas, on->clip, points.data(), count, pixel_of(Current_Color));
-    raster::Rect all = bounds(points.data()[0], points.data()[0]);
-    for (int i = 1; i < count; ++i) {
-        const raster::Point point = points.data()[i];
-        all = {std::min(all.left, point.x), std::min(all.top, point.y), std::max(all.right, point.x + 1),
-               std::max(all.bottom, point.y + 1)};
-    }
-    changed(all);
+    text::guarded(0, [=] { return fill_polygon(*on, count, xs, ys); });
 }
 
 FENN_API void draw_image(const char* pixels, int x, int y, int source_x, int source_y, int width, int height,

@@ -1,11 +1,59 @@
 #include <cstddef>
+#include <cstdlib>
+#include <new>
 #include <vector>
 
 #include <brask/fenn_host.h>
 
 #include "fenn/system.h"
 #include "fenn/window.h"
+#include "text/guarded.h"
 
+namespace {
+
+// The memory of the writer of PNG files, which knows no failure: one ends the writing, and its blocks go.
+class Blocks {
+  public:
+    Blocks() = default;
+    Blocks(const Blocks&) = delete;
+    Blocks& operator=(const Blocks&) = delete;
+    ~Blocks() {
+        while (first)
+            give(first + 1);
+    }
+    void* resize(void* block, std::size_t size) {
+        Head* const head =
+            static_cast<Head*>(std::realloc(block ? head_of(block) : nullptr, sizeof(Head) + size));
+        if (!head) throw std::bad_alloc();
+        if (!block) *head = {first, &first};
+        *head->link = head;
+        if (head->next) head->next->link = &head->next;
+        return head + 1;
+    }
+    void give(void* block) {
+        if (!block) return;
+        Head* const head = head_of(block);
+        *head->link = head->next;
+        if (head->next) head->next->link = head->link;
+        std::free(head);
+    }
+
+  private:
+    struct alignas(std::max_align_t) Head {
+        Head* next;
+        Head** link; // to this one
+    };
+    static Head* head_of(void* block) { return static_cast<Head*>(block) - 1; }
+
+    Head* first = nullptr;
+};
+Blocks* blocks = nullptr; // of the picture that is being written
+
+} // namespace
+
+#define STBIW_MALLOC(size) blocks->resize(nullptr, size)
+#define STBIW_REALLOC(block, size) blocks->resize(block, size)
+#define STBIW_FREE(block) blocks->give(block)
 #define STB_IMAGE_WRITE_IMPLEMENTATION
 #define STB_IMAGE_WRITE_STATIC
 #define STBI_WRITE_NO_STDIO
@@ -16,17 +64,6 @@
 #pragma GCC diagnostic pop
 
 namespace {
-
-struct Output {
-    std::FILE* file;
-    bool good;
-};
-
-void write_piece(void* context, void* data, int size) {
-    Output& output = *static_cast<Output*>(context);
-    const std::size_t bytes = static_cast<std::size_t>(size);
-    output.good = output.good && std::fwrite(data, 1, bytes, output.file) == bytes;
-}
 
 // From words 0x00RRGGBB to the three bytes of a picture file.
 std::vector<unsigned char> picture_bytes(const raster::Canvas& canvas) {
@@ -42,18 +79,27 @@ std::vector<unsigned char> picture_bytes(const raster::Canvas& canvas) {
     return bytes;
 }
 
+// The picture is whole before the file is touched.
+bool write_png(const raster::Canvas& canvas, const wchar_t* path) {
+    const std::vector<unsigned char> bytes = picture_bytes(canvas);
+    Blocks all;
+    blocks = &all;
+    int size = 0;
+    const unsigned char* const png =
+        stbi_write_png_to_mem(bytes.data(), 3 * canvas.width, canvas.width, canvas.height, 3, &size);
+    std::FILE* const file = png ? fenn::open_file(path, "wb") : nullptr;
+    if (!file) return false;
+    const std::size_t length = static_cast<std::size_t>(size);
+    const bool written = std::fwrite(png, 1, length, file) == length;
+    return (std::fclose(file) == 0) && written;
+}
+
 } // namespace
 
 FENN_API int Fenn_Snapshot(HWND wnd, const wchar_t* file) {
     const fenn::Window* const window = fenn::find_window(wnd);
     if (!window || !window->canvas.pixels) return 0;
-    const std::vector<unsigned char> bytes = picture_bytes(window->canvas);
-    Output output{fenn::open_file(file, "wb"), true};
-    if (!output.file) return 0;
-    const int written = stbi_write_png_to_func(write_piece, &output, window->canvas.width,
-                                               window->canvas.height, 3, bytes.data(), 0);
-    const bool closed = std::fclose(output.file) == 0;
-    return written && output.good && closed;
+    return text::guarded(0, [=] { return static_cast<int>(write_png(window->canvas, file)); });
 }
 
 FENN_API const DWORD* Fenn_Pixels(HWND wnd, int* width, int* height) {

@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <cstring>
 #include <cwchar>
 
 #include <brask/fenn.h>
@@ -9,26 +10,31 @@
 namespace fenn {
 namespace {
 
-// Storage for the last converted string of a thread. It grows and stays; a use after the thread's end, by the
-// destructor of a static object, begins anew.
+// Storage for the last converted string of a thread. A line of text needs no memory beyond it; for more it
+// grows and stays. A use after the thread's end, by the destructor of a static object, begins anew.
 template <typename Unit>
 struct Buffer {
-    Unit* data;
-    std::size_t size;
+    // In units: 1,023 characters of any kind, and room to look ahead.
+    static constexpr std::size_t line = sizeof(Unit) == 1 ? 4100 : 2050;
+    Unit first[line];
+    Unit* grown;
+    std::size_t size; // of what has grown
 
     ~Buffer() {
-        std::free(data);
-        data = nullptr;
+        std::free(grown);
+        grown = nullptr;
         size = 0;
     }
+    Unit* data() { return grown ? grown : first; }
     // False when memory fails.
     bool reserve(std::size_t units) {
-        if (units <= size) return true;
-        const std::size_t grown = units < 2 * size ? 2 * size : units;
-        void* const block = std::realloc(data, grown * sizeof(Unit));
+        if (units <= (grown ? size : line)) return true;
+        const std::size_t room = units < 2 * size ? 2 * size : 2 * units;
+        void* const block = std::realloc(grown, room * sizeof(Unit));
         if (!block) return false;
-        data = static_cast<Unit*>(block);
-        size = grown;
+        if (!grown) std::memcpy(block, first, sizeof first);
+        grown = static_cast<Unit*>(block);
+        size = room;
         return true;
     }
 };
@@ -46,10 +52,10 @@ To* convert(Buffer<To>& buffer, const From* text) {
         if (!buffer.reserve(used + longest_code + 1)) return empty;
         const char32_t code = text ? text::next(text) : 0;
         if (code == 0) break;
-        used += static_cast<std::size_t>(text::put(code, buffer.data + used));
+        used += static_cast<std::size_t>(text::put(code, buffer.data() + used));
     } while (true);
-    buffer.data[used] = 0;
-    return buffer.data;
+    buffer.data()[used] = 0;
+    return buffer.data();
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <cwctype>
 #include <locale.h>
+#include <memory>
 #include <string>
 #include <unistd.h>
 #include <wctype.h>
@@ -11,6 +12,7 @@
 
 #include "fenn/system.h"
 #include "platform/portable/native_path.h"
+#include "text/guarded.h"
 #include "text/unicode.h"
 
 namespace fenn {
@@ -31,8 +33,8 @@ const char* program_file() {
 std::wstring current_folder() {
     char* const native = getcwd(nullptr, 0);
     if (!native) return {};
+    const std::unique_ptr<char, void (*)(void*)> owner(native, std::free);
     std::wstring folder = platform::from_native(native);
-    std::free(native);
     if (folder.back() == L'\\') folder.pop_back();
     return folder;
 }
@@ -57,16 +59,20 @@ std::FILE* open_file(const wchar_t* path, const char* mode) {
 } // namespace fenn
 
 FENN_API int Fenn_Path_To_Native(const wchar_t* path, char* native, int size) {
-    std::string result;
-    if (!native || !platform::to_native(path, result) || !fenn::has_room(result.size(), size)) return 0;
-    std::memcpy(native, result.c_str(), result.size() + 1);
-    return 1;
+    return text::guarded(0, [=] {
+        std::string result;
+        if (!native || !platform::to_native(path, result) || !fenn::has_room(result.size(), size)) return 0;
+        std::memcpy(native, result.c_str(), result.size() + 1);
+        return 1;
+    });
 }
 
 FENN_API int Fenn_Path_From_Native(const char* native, wchar_t* path, int size) {
     if (!native || !path) return 0;
-    const std::wstring result = platform::from_native(native);
-    if (!fenn::has_room(result.size(), size)) return 0;
-    std::wmemcpy(path, result.c_str(), result.size() + 1);
-    return 1;
+    return text::guarded(0, [=] {
+        const std::wstring result = platform::from_native(native);
+        if (!fenn::has_room(result.size(), size)) return 0;
+        std::wmemcpy(path, result.c_str(), result.size() + 1);
+        return 1;
+    });
 }

@@ -8,6 +8,7 @@
 
 #include "fenn/system.h"
 #include "fenn/windows_path.h"
+#include "text/guarded.h"
 #include "text/unicode.h"
 
 namespace fenn {
@@ -90,17 +91,21 @@ std::FILE* open_file(const wchar_t* path, const char* mode) {
 
 FENN_API int Fenn_Path_To_Native(const wchar_t* path, char* native, int size) {
     if (!path || !native) return 0;
-    const std::string result = text::to_utf8(path);
-    if (size < 1 || result.size() >= static_cast<std::size_t>(size)) return 0;
-    std::memcpy(native, result.c_str(), result.size() + 1);
-    return 1;
+    return text::guarded(0, [=] {
+        const std::string result = text::to_utf8(path);
+        if (size < 1 || result.size() >= static_cast<std::size_t>(size)) return 0;
+        std::memcpy(native, result.c_str(), result.size() + 1);
+        return 1;
+    });
 }
 
 FENN_API int Fenn_Path_From_Native(const char* native, wchar_t* path, int size) {
     if (!native || !path) return 0;
-    std::wstring result = text::to_wide(native);
-    std::replace(result.begin(), result.end(), L'/', L'\\');
-    if (size < 1 || result.size() >= static_cast<std::size_t>(size)) return 0;
-    std::wmemcpy(path, result.c_str(), result.size() + 1);
-    return 1;
+    return text::guarded(0, [=] {
+        std::wstring result = text::to_wide(native);
+        std::replace(result.begin(), result.end(), L'/', L'\\');
+        if (size < 1 || result.size() >= static_cast<std::size_t>(size)) return 0;
+        std::wmemcpy(path, result.c_str(), result.size() + 1);
+        return 1;
+    });
 }

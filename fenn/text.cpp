@@ -1,5 +1,4 @@
 #include <cstdint>
-#include <new>
 #include <string>
 
 #include <brask/fenn.h>
@@ -9,6 +8,7 @@
 #include "fenn/painter.h"
 #include "fenn/system_text.h"
 #include "fenn/text_run.h"
+#include "text/guarded.h"
 #include "text/unicode.h"
 
 // The text calls of the contract: each goes to the system's fonts or to the built-in one.
@@ -20,14 +20,10 @@ std::uint32_t text_color = 0;
 
 Font& builtin_for(HFONT font) { return builtin_font(describe_font(font)); }
 
-// Text takes memory; where there is none left it stays away instead of ending the program.
+// Text takes memory; where there is none left it stays away.
 template <class Action>
 int guarded(Action action) {
-    try {
-        return action();
-    } catch (const std::bad_alloc&) {
-        return 0;
-    }
+    return text::guarded(0, action);
 }
 
 } // namespace

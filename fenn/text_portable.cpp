@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <map>
 #include <tuple>
+#include <utility>
 
 #include "fenn/builtin_font.h"
 #include "fenn/font_faces.h"
@@ -66,11 +67,11 @@ Font& make_font(const LOGFONTW& description) {
         std::fill(std::begin(all.recent), std::end(all.recent), Recent{});
     }
     const LineSize size = line_size(face, description.lfHeight);
-    ShapedFont& made = all.known[key];
+    ShapedFont made;
     made.font = {&shaped_kind, next_font_id(), size.em, size.height, size.ascent, 0};
     made.wanted = key.wanted;
     made.face = face;
-    return made.font;
+    return (all.known[key] = std::move(made)).font;
 }
 
 Font& font_for(HFONT handle) {

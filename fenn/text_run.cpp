@@ -59,10 +59,10 @@ void make_room_for_runs(Caches& all) {
 
 void lay_out(Font& font, const wchar_t* text, std::size_t length, Run& run) {
     run = Run();
-    run.font = font.id;
     run.text.assign(text, length);
     font.kind->layout(font, text, run);
     run.glyphs.shrink_to_fit();
+    run.font = font.id; // at last: without memory it is nobody's
 }
 
 bool is_of(const Run& run, const Font& font, const wchar_t* text, std::size_t length) {
@@ -214,8 +214,9 @@ const Glyph& find_glyph(Font& font, std::uint64_t glyph) {
         draw_hex_box(static_cast<char32_t>(glyph & 0x1FFFFF), font.em, font.ascent, fresh);
     else
         font.kind->draw(font, glyph, fresh);
-    all.glyph_bytes += size_of(fresh);
-    return all.glyphs[key] = std::move(fresh);
+    Glyph& kept = all.glyphs[key] = std::move(fresh);
+    all.glyph_bytes += size_of(kept);
+    return kept;
 }
 
 void append(Font& font, std::uint64_t glyph, Run& run) {

@@ -1,5 +1,6 @@
 #include "fenn/text_shaping.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -161,11 +162,8 @@ bool layout_shaped(Font& font, const wchar_t* text, Run& run) {
     const Shaper& with = shaper();
     if (!with.is_there) return false;
     const std::vector<Item> items = itemise(shaped(font), text);
-    raqm_t* const job = with.create();
-    if (!job) return false;
-    const bool done = shape(with, job, font, items, run);
-    with.destroy(job);
-    return done;
+    const std::unique_ptr<raqm_t, decltype(with.destroy)> job(with.create(), with.destroy);
+    return job && shape(with, job.get(), font, items, run);
 }
 
 void layout(Font& font, const wchar_t* text, Run& run) {

@@ -33,6 +33,8 @@ void remember_shape(Tools& control) {
     control.Old_Color = control.Color_Get();
 }
 
+void forget_shape(Tools& control) { control.Old_Dim_X = 0; } // which no control has then
+
 void remember_surfaces(Tools& control) {
     control.Old_Graph_Normal = control.Graph_Normal;
     control.Old_Graph_Select = control.Graph_Select;

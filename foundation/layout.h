@@ -24,6 +24,8 @@ bool recolored(const Tools& control);
 // What the next Init compares with: size, bevel and colour; and in the second form the surfaces as well.
 void remember_shape(Tools& control);
 void remember_surfaces(Tools& control);
+// The next Init has a reason to make every face anew: memory was short for one.
+void forget_shape(Tools& control);
 
 // The whole control, as left, right, bottom, top.
 Area whole_area(const Tools& control);

@@ -66,7 +66,8 @@ Kept_Font kept = {};
 Check_Widths measure(CheckLists& control, const Check_Labels& labels) {
     const HFONT font = font_of(control);
     Setup setup(control.Wnd, "CheckLists::Init");
-    if (font && font != kept.font) kept = {font, Zeb_Font_Size_Height(font), Zeb_Font_Size_String(font, "H")};
+    if (font && (font != kept.font || !kept.height || !kept.width))
+        kept = {font, Zeb_Font_Size_Height(font), Zeb_Font_Size_String(font, "H")};
     control.Font_Dim = kept.height;
     control.Char_Dim = kept.width;
     const bool name_beside = control.W_Name && control.Flag & TEXT_LEFT;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desktop.h"
+#include "text/guarded.h"
 #include "text/unicode.h"
 #include "window.h"
 
@@ -63,7 +64,11 @@ static std::string without_returns(const std::string& text) {
     return lines;
 }
 
+// Asked for before a block changes hands.
+static void make_room() { board().held.reserve(board().held.size() + 1); }
+
 static HANDLE make_block(const void* data, std::size_t bytes) {
+    make_room();
     const HANDLE block = GlobalAlloc(GMEM_MOVEABLE, bytes);
     if (!block) return nullptr;
     std::memcpy(GlobalLock(block), data, bytes);
@@ -80,9 +85,27 @@ static std::basic_string<Unit> text_of(HANDLE block) {
     std::size_t length = 0;
     while (length < room && data[length])
         length++;
-    std::basic_string<Unit> text(data, length);
-    GlobalUnlock(block);
-    return text;
+    GlobalUnlock(block); // its owner keeps it where it is meanwhile
+    return {data, length};
+}
+
+static std::string text_in(UINT format, HANDLE block) {
+    return format == CF_TEXT ? text_of<char>(block) : text::to_utf8(text_of<wchar_t>(block).c_str());
+}
+
+static HANDLE give_text(UINT format) {
+    const std::string text = with_returns(current_text());
+    if (text.empty()) return nullptr;
+    if (format == CF_TEXT) return make_block(text.c_str(), text.size() + 1);
+    const std::wstring wide = text::to_wide(text.c_str());
+    return make_block(wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
+}
+
+static HANDLE take_text(UINT format, HANDLE block) {
+    make_room();
+    put_text(without_returns(text_in(format, block)));
+    board().held.push_back(block);
+    return block;
 }
 
 } // namespace platform
@@ -112,24 +135,18 @@ BOOL EmptyClipboard() {
     return TRUE;
 }
 
-BOOL IsClipboardFormatAvailable(UINT format) { return is_text(format) && !current_text().empty(); }
+BOOL IsClipboardFormatAvailable(UINT format) {
+    return text::guarded<BOOL>(FALSE, [=] { return is_text(format) && !current_text().empty(); });
+}
 
 HANDLE GetClipboardData(UINT format) {
     if (!board().open || !is_text(format)) return nullptr;
-    const std::string text = with_returns(current_text());
-    if (text.empty()) return nullptr;
-    if (format == CF_TEXT) return make_block(text.c_str(), text.size() + 1);
-    const std::wstring wide = text::to_wide(text.c_str());
-    return make_block(wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
+    return text::guarded<HANDLE>(nullptr, [=] { return give_text(format); });
 }
 
 HANDLE SetClipboardData(UINT format, HANDLE block) {
     if (!board().open || !is_text(format) || !GlobalLock(block)) return nullptr;
     GlobalUnlock(block);
-    const std::string text =
-        format == CF_TEXT ? text_of<char>(block) : text::to_utf8(text_of<wchar_t>(block).c_str());
-    put_text(without_returns(text));
-    board().held.push_back(block);
-    return block;
+    return text::guarded<HANDLE>(nullptr, [=] { return take_text(format, block); });
 }
 }

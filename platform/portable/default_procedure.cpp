@@ -6,15 +6,18 @@
 #include "keys.h"
 #include "messages.h"
 #include "objects.h"
+#include "text/guarded.h"
 #include "window_state.h"
 
 // What a window does with a message that its host leaves alone.
 namespace platform {
 
 static LRESULT keep_title(Window& window, LPCWSTR title) {
-    window.title = title ? title : L"";
-    desktop_set_title(window);
-    return TRUE;
+    return text::guarded<LRESULT>(FALSE, [&] {
+        window.title = title ? title : L"";
+        desktop_set_title(window);
+        return TRUE;
+    });
 }
 
 static LRESULT keep_first_title(Window& window, LPARAM lparam) {

@@ -6,6 +6,7 @@
 
 #include "objects.h"
 #include "surface.h"
+#include "text/guarded.h"
 #include "window_state.h"
 
 namespace platform {
@@ -27,25 +28,28 @@ DeviceContext* find_context(HDC handle) {
     return dc;
 }
 
-static std::unique_ptr<DeviceContext> fresh_context() {
-    auto dc = std::make_unique<DeviceContext>();
-    dc->pen = GetStockObject(BLACK_PEN);
-    dc->brush = GetStockObject(WHITE_BRUSH);
-    dc->font = GetStockObject(SYSTEM_FONT);
-    return dc;
+// Null without memory.
+template <class Set_Up>
+static HDC add_context(Set_Up set_up) {
+    return text::guarded<HDC>(nullptr, [&] {
+        auto dc = std::make_unique<DeviceContext>();
+        dc->pen = GetStockObject(BLACK_PEN);
+        dc->brush = GetStockObject(WHITE_BRUSH);
+        dc->font = GetStockObject(SYSTEM_FONT);
+        set_up(*dc);
+        return reinterpret_cast<HDC>(contexts().add(std::move(dc)));
+    });
 }
 
 HDC create_context(HWND wnd) {
-    auto dc = fresh_context();
-    dc->wnd = wnd;
-    dc->clip = kNoClip;
-    return reinterpret_cast<HDC>(contexts().add(std::move(dc)));
+    return add_context([wnd](DeviceContext& dc) {
+        dc.wnd = wnd;
+        dc.clip = kNoClip;
+    });
 }
 
 HDC canvas_dc_create() {
-    auto dc = fresh_context();
-    dc->flipped = true;
-    return reinterpret_cast<HDC>(contexts().add(std::move(dc)));
+    return add_context([](DeviceContext& dc) { dc.flipped = true; });
 }
 
 CanvasContext* canvas_dc_state(HDC handle) { return contexts().find(handle); }

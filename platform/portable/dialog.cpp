@@ -11,6 +11,7 @@
 #include "messages.h"
 #include "modal.h"
 #include "process.h"
+#include "text/guarded.h"
 #include "window_state.h"
 
 // Modal dialogs.
@@ -69,6 +70,14 @@ static bool read_template(const DLGTEMPLATE* memory, Wish& wish) {
     }
 }
 
+// False without memory too: nothing of a dialog asks for any later.
+static bool prepare(const DLGTEMPLATE* memory, Wish& wish) {
+    return text::guarded(false, [&] {
+        dialogs().reserve(dialogs().size() + 1);
+        return read_template(memory, wish);
+    });
+}
+
 static RECT wished_place(const DLGTEMPLATE& head, HWND owner) {
     const auto across = [](LONG units) { return units * kBaseWidth / 4; };
     const auto down = [](LONG units) { return units * kBaseHeight / 8; };
@@ -112,16 +121,15 @@ static LRESULT CALLBACK window_procedure(HWND wnd, UINT message, WPARAM wparam, 
 }
 
 static ATOM dialog_class() {
-    static const ATOM atom = [] {
-        WNDCLASSW type{}; // without double clicks: each press of a quick series counts
-        type.lpfnWndProc = window_procedure;
-        type.cbWndExtra = 3 * sizeof(LONG_PTR);
-        type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-        type.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<std::uintptr_t>(COLOR_BTNFACE + 1));
-        type.lpszClassName = L"#32770";
-        return RegisterClassW(&type);
-    }();
-    return atom;
+    static ATOM atom = 0;
+    if (atom) return atom;
+    WNDCLASSW type{}; // without double clicks: each press of a quick series counts
+    type.lpfnWndProc = window_procedure;
+    type.cbWndExtra = 3 * sizeof(LONG_PTR);
+    type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    type.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<std::uintptr_t>(COLOR_BTNFACE + 1));
+    type.lpszClassName = L"#32770";
+    return atom = RegisterClassW(&type);
 }
 
 // Not shown yet.
@@ -204,7 +212,7 @@ LONG GetDialogBaseUnits() { return MAKELONG(kBaseWidth, kBaseHeight); }
 INT_PTR DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATEA memory, HWND owner, DLGPROC procedure,
                                 LPARAM parameter) {
     Wish wish;
-    if (!read_template(memory, wish) || !procedure || (owner && !find_window(owner))) return -1;
+    if (!prepare(memory, wish) || !procedure || (owner && !find_window(owner))) return -1;
     Dialog dialog;
     dialog.owner = owner;
     dialog.owner_was_enabled = IsWindowEnabled(owner);

@@ -5,6 +5,7 @@
 #include "objects.h"
 #include "raster/shapes.h"
 #include "surface.h"
+#include "text/guarded.h"
 
 namespace platform {
 
@@ -85,8 +86,12 @@ BOOL AngleArc(HDC handle, int x, int y, DWORD radius, FLOAT start, FLOAT sweep) 
         const raster::Point center = device_point(*dc, {x, y});
         const LOGPEN* pen = pen_description(dc->pen);
         const int width = pen ? std::max<int>(pen->lopnWidth.x, 1) : 1;
-        raster::angle_arc(dc->canvas, dc->clip, from, center, radius, dc->flipped ? -start : start,
-                          dc->flipped ? flipped_sweep(sweep) : sweep, width, color);
+        const float begin = dc->flipped ? -start : start, turn = dc->flipped ? flipped_sweep(sweep) : sweep;
+        const bool drawn = text::guarded(false, [&] {
+            raster::angle_arc(dc->canvas, dc->clip, from, center, radius, begin, turn, width, color);
+            return true;
+        });
+        if (!drawn) return FALSE;
         const int reach = static_cast<int>(radius) + 1 + width / 2;
         changed(*dc, {std::min(from.x, center.x - reach), std::min(from.y, center.y - reach),
                       std::max(from.x, center.x + reach) + 1, std::max(from.y, center.y + reach) + 1});

@@ -51,8 +51,9 @@ static bool is_file(const Mount& mount) {
 // Under the table's lock.
 static const DriveLetters& current_letters(DriveTable& table) {
     const int before = errno;
-    if (!table.read) table.file = open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC);
-    if (!table.read || (table.file >= 0 && has_changed(table.file))) {
+    if (table.file < 0 && !table.read) table.file = open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC);
+    if (table.file >= 0 && has_changed(table.file)) table.read = false; // until it is taken in whole
+    if (!table.read) {
         std::vector<Mount> mounts = real_mounts(table.file >= 0 ? whole_text(table.file) : "");
         mounts.erase(std::remove_if(mounts.begin(), mounts.end(), is_file), mounts.end());
         table.letters.assign(mounts);

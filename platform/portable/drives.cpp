@@ -9,18 +9,18 @@
 #include <cstdlib>
 #include <cwchar>
 #include <fstream>
+#include <memory>
 
 #include "drive_table.h"
 #include "native_path.h"
+#include "text/guarded.h"
 
 namespace platform {
 
 static bool current_drive(Mount& mount) {
-    char* const folder = getcwd(nullptr, 0);
+    const std::unique_ptr<char, void (*)(void*)> folder(getcwd(nullptr, 0), std::free);
     std::size_t length = 0;
-    const wchar_t letter = drive_holding(folder ? folder : "/", length);
-    std::free(folder);
-    return drive_mount(letter, mount);
+    return drive_mount(drive_holding(folder ? folder.get() : "/", length), mount);
 }
 
 // `ended`: the separator must be there.
@@ -70,15 +70,15 @@ static std::string unescaped(const char* name) {
 
 static std::string disk_label(const std::string& source) {
     struct stat disk, labelled;
-    DIR* const labels =
-        source[0] == '/' && stat(source.c_str(), &disk) == 0 ? opendir("/dev/disk/by-label") : nullptr;
+    const std::unique_ptr<DIR, int (*)(DIR*)> labels(
+        source[0] == '/' && stat(source.c_str(), &disk) == 0 ? opendir("/dev/disk/by-label") : nullptr,
+        closedir);
     std::string label;
-    while (const dirent* entry = labels ? readdir(labels) : nullptr) {
-        const bool same = fstatat(dirfd(labels), entry->d_name, &labelled, 0) == 0 &&
+    while (const dirent* entry = labels ? readdir(labels.get()) : nullptr) {
+        const bool same = fstatat(dirfd(labels.get()), entry->d_name, &labelled, 0) == 0 &&
                           S_ISBLK(labelled.st_mode) && labelled.st_rdev == disk.st_rdev;
         if (same) label = unescaped(entry->d_name);
     }
-    if (labels) closedir(labels);
     return label;
 }
 
@@ -109,22 +109,27 @@ using namespace platform;
 
 extern "C" {
 
-DWORD GetLogicalDrives() { return drive_mask(); }
+DWORD GetLogicalDrives() { return text::guarded<DWORD>(0, drive_mask); }
 
 UINT GetDriveTypeW(LPCWSTR root) {
-    Mount mount;
-    return find_drive(root, false, mount) ? drive_type(mount) : static_cast<UINT>(DRIVE_NO_ROOT_DIR);
+    return text::guarded<UINT>(DRIVE_NO_ROOT_DIR, [=] {
+        Mount mount;
+        return find_drive(root, false, mount) ? drive_type(mount) : static_cast<UINT>(DRIVE_NO_ROOT_DIR);
+    });
 }
 
 BOOL GetVolumeInformationW(LPCWSTR root, LPWSTR name, DWORD name_size, LPDWORD serial, LPDWORD longest_name,
                            LPDWORD flags, LPWSTR system, DWORD system_size) {
-    Mount mount;
-    if (!find_drive(root, true, mount)) return FALSE;
-    set(serial, 0);
-    set(longest_name, NAME_MAX);
-    set(flags, kNameFlags);
-    std::wstring type;
-    append_name(type, mount.type.c_str());
-    return (!name || copy_text(drive_label(mount), name, name_size)) && copy_text(type, system, system_size);
+    return text::guarded<BOOL>(FALSE, [=]() -> BOOL {
+        Mount mount;
+        if (!find_drive(root, true, mount)) return FALSE;
+        set(serial, 0);
+        set(longest_name, NAME_MAX);
+        set(flags, kNameFlags);
+        std::wstring type;
+        append_name(type, mount.type.c_str());
+        return (!name || copy_text(drive_label(mount), name, name_size)) &&
+               copy_text(type, system, system_size);
+    });
 }
 }

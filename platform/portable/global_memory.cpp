@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <memory>
 #include <mutex>
+
+#include "text/guarded.h"
 
 namespace platform {
 
@@ -39,11 +42,13 @@ using namespace platform;
 extern "C" {
 
 HGLOBAL GlobalAlloc(UINT flags, SIZE_T size) {
-    void* memory = std::calloc(std::max<SIZE_T>(size, 1), 1);
+    std::unique_ptr<void, void (*)(void*)> memory(std::calloc(std::max<SIZE_T>(size, 1), 1), std::free);
     if (!memory) return nullptr;
     std::lock_guard<std::mutex> guard(blocks().mutex);
-    blocks().live[memory] = {size, !(flags & GMEM_MOVEABLE), 0};
-    return memory;
+    return text::guarded<HGLOBAL>(nullptr, [&] {
+        blocks().live[memory.get()] = {size, !(flags & GMEM_MOVEABLE), 0};
+        return memory.release();
+    });
 }
 
 LPVOID GlobalLock(HGLOBAL handle) {

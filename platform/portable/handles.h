@@ -25,6 +25,7 @@ class HandleTable {
             index = free_slots.back();
             free_slots.pop_back();
         } else if (slots.size() < kMost) {
+            make_room();
             index = slots.size();
             slots.emplace_back();
         } else {
@@ -51,15 +52,15 @@ class HandleTable {
         return true;
     }
 
-    // The handles of all objects, oldest slot first.
+    // The live handles, oldest slot first: the one behind a handle, the first one behind null, and null
+    // behind the last one. Meanwhile any object may come or go.
     template <class H>
-    std::vector<H> all() const {
+    H next(H handle) const {
         std::lock_guard<std::mutex> lock(mutex);
-        std::vector<H> handles;
-        for (std::size_t i = 0; i < slots.size(); i++) {
-            if (slots[i].object) handles.push_back(reinterpret_cast<H>(value_of(i)));
-        }
-        return handles;
+        std::size_t i = handle ? index_of(handle) + 1 : 0;
+        while (i < slots.size() && !slots[i].object)
+            i++;
+        return i < slots.size() ? reinterpret_cast<H>(value_of(i)) : nullptr;
     }
 
   private:
@@ -72,9 +73,19 @@ class HandleTable {
     std::uintptr_t value_of(std::size_t index) const {
         return slots[index].generation << 20 | index << 4 | static_cast<std::uintptr_t>(kind);
     }
+    static std::size_t index_of(const void* handle) {
+        return reinterpret_cast<std::uintptr_t>(handle) >> 4 & 0xFFFF;
+    }
+    // For another slot, and for its number when it is given back: that takes no memory then.
+    void make_room() {
+        if (slots.size() < slots.capacity()) return;
+        const std::size_t room = 2 * slots.size() + 16;
+        free_slots.reserve(room);
+        slots.reserve(room);
+    }
     const Slot* slot_of(const void* handle) const {
         const auto value = reinterpret_cast<std::uintptr_t>(handle);
-        const std::size_t index = value >> 4 & 0xFFFF;
+        const std::size_t index = index_of(handle);
         if (index >= slots.size() || !slots[index].object || value_of(index) != value) return nullptr;
         return &slots[index];
     }

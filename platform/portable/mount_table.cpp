@@ -1,6 +1,7 @@
 #include "mount_table.h"
 
 #include <algorithm>
+#include <new>
 #include <sstream>
 
 namespace platform {
@@ -62,15 +63,22 @@ static std::string unescaped(const std::string& field) {
     return text;
 }
 
+// A stream keeps the failure of memory to itself.
+static void need_memory(const std::istream& stream) {
+    if (stream.bad()) throw std::bad_alloc();
+}
+
 // One line: number, parent, device, folder of the file system that is shown, point, options, more options,
 // "-", type, source. False for what holds no user's files.
 static bool read_line(const std::string& line, Mount& mount) {
     std::istringstream fields(line);
     std::string number, parent, shown, options, mark;
-    if (!(fields >> number >> parent >> mount.device >> shown >> mount.point >> options)) return false;
+    fields >> number >> parent >> mount.device >> shown >> mount.point >> options;
     while (fields >> mark && mark != "-") {
     }
-    if (!(fields >> mount.type >> mount.source)) return false;
+    fields >> mount.type >> mount.source;
+    need_memory(fields);
+    if (!fields) return false;
     mount.point = unescaped(mount.point);
     mount.source = unescaped(mount.source);
     mount.remote = is_among(kRemote, mount.type);
@@ -104,6 +112,7 @@ std::vector<Mount> real_mounts(const std::string& table) {
         Mount mount{};
         if (read_line(line, mount)) add_mount(all, mount);
     }
+    need_memory(lines);
     const auto root = std::find_if(all.begin(), all.end(), [](const Mount& m) { return m.point.empty(); });
     if (root == all.end())
         all.insert(all.begin(),

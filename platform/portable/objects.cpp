@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <mutex>
 
 #include "handles.h"
 #include "surface.h"
+#include "text/guarded.h"
 
 namespace platform {
 
@@ -37,7 +39,9 @@ static HandleTable<Brush>& brushes() {
 
 template <class O, class D>
 static void* add(HandleTable<O>& table, const D& description, bool stock) {
-    return reinterpret_cast<void*>(table.add(std::make_unique<O>(O{description, stock})));
+    return text::guarded<void*>(nullptr, [&] {
+        return reinterpret_cast<void*>(table.add(std::make_unique<O>(O{description, stock})));
+    });
 }
 
 // False: no object of this table. A stock object stays.
@@ -166,13 +170,13 @@ HBRUSH CreateSolidBrush(COLORREF color) {
 }
 
 HGDIOBJ GetStockObject(int index) {
-    static void* const* const made = [] {
-        static void* handles[kStockCount];
-        std::transform(kStock, kStock + kStockCount, handles, make_stock);
-        return handles;
-    }();
+    static void* made[kStockCount];
+    static std::mutex mutex;
+    std::lock_guard<std::mutex> lock(mutex);
     for (std::size_t i = 0; i < kStockCount; i++) {
-        if (kStock[i].index == index) return made[i];
+        if (kStock[i].index != index) continue;
+        if (!made[i]) made[i] = make_stock(kStock[i]);
+        return made[i];
     }
     return nullptr;
 }

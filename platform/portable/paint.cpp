@@ -17,7 +17,7 @@ static bool wants_paint(const Window& window) {
 }
 
 bool paint_message(HWND filter, MSG* msg) {
-    for (HWND wnd : windows().all<HWND>()) {
+    for (HWND wnd = nullptr; (wnd = windows().next(wnd)) != nullptr;) {
         if (filter && filter != wnd) continue;
         if (!wants_paint(*find_window(wnd))) continue;
         *msg = {wnd, WM_PAINT, 0, 0, GetTickCount(), pointer_position()};
@@ -82,7 +82,7 @@ void window_changed(HWND wnd, const raster::Rect& rect) {
 void show_damage(bool only_overdue) {
     if (!something_waits) return;
     something_waits = false;
-    for (HWND wnd : windows().all<HWND>()) {
+    for (HWND wnd = nullptr; (wnd = windows().next(wnd)) != nullptr;) {
         Window* window = find_window(wnd);
         if (is_empty(window->damage)) continue;
         if (only_overdue && !is_overdue(*window)) {
@@ -105,7 +105,7 @@ BOOL InvalidateRect(HWND wnd, const RECT* rect, BOOL erase) {
         return TRUE;
     }
     if (wnd) return FALSE;
-    for (HWND each : windows().all<HWND>())
+    for (HWND each = nullptr; (each = windows().next(each)) != nullptr;)
         invalidate(*find_window(each), nullptr, erase);
     return TRUE;
 }

@@ -14,6 +14,7 @@
 #include <new>
 #include <string>
 
+#include "text/guarded.h"
 #include "text/unicode.h"
 
 namespace platform {
@@ -112,14 +113,19 @@ void DeleteCriticalSection(CRITICAL_SECTION* section) {
 
 DWORD GetModuleFileNameW(HMODULE module, LPWSTR path, DWORD size) {
     if (!path || size == 0) return 0;
-    const std::wstring whole = text::to_wide(module_path(module).c_str());
-    const std::size_t length = std::min<std::size_t>(whole.size(), size - 1);
-    whole.copy(path, length);
-    path[length] = 0;
-    return length < whole.size() ? size : static_cast<DWORD>(length);
+    path[0] = 0;
+    return text::guarded<DWORD>(0, [=] {
+        const std::wstring whole = text::to_wide(module_path(module).c_str());
+        const std::size_t length = std::min<std::size_t>(whole.size(), size - 1);
+        whole.copy(path, length);
+        path[length] = 0;
+        return length < whole.size() ? size : static_cast<DWORD>(length);
+    });
 }
 
-HMODULE GetModuleHandleW(LPCWSTR name) { return name ? module_named(name) : program(); }
+HMODULE GetModuleHandleW(LPCWSTR name) {
+    return name ? text::guarded<HMODULE>(nullptr, [=] { return module_named(name); }) : program();
+}
 
 BOOL GetModuleHandleExW(DWORD flags, LPCWSTR name_or_address, HMODULE* module) {
     if (!module) return FALSE;

@@ -8,6 +8,7 @@
 #include "desktop.h"
 #include "messages.h"
 #include "process.h"
+#include "text/guarded.h"
 #include "window_state.h"
 
 namespace platform {
@@ -43,7 +44,13 @@ struct Filter {
     }
 };
 
-void queue_input(const Input& input) { queue().input.push_back(input); }
+// Puts one at the end of a queue; false without memory.
+template <class Entry>
+static bool append(std::deque<Entry>& to, const Entry& entry) {
+    return text::guarded(false, [&] { return to.push_back(entry), true; });
+}
+
+void queue_input(const Input& input) { append(queue().input, input); }
 
 Input* last_input() { return queue().input.empty() ? nullptr : &queue().input.back(); }
 
@@ -194,9 +201,9 @@ BOOL PostMessageW(HWND wnd, UINT message, WPARAM wparam, LPARAM lparam) {
     if (wnd && !find_window(wnd)) return FALSE;
     {
         std::lock_guard<std::mutex> lock(queue().mutex);
-        if (queue().posted.size() >= kMost) return FALSE;
+        const MSG msg = {wnd, message, wparam, lparam, GetTickCount(), {}};
+        if (queue().posted.size() >= kMost || !append(queue().posted, msg)) return FALSE;
         queue().arrivals++;
-        queue().posted.push_back({wnd, message, wparam, lparam, GetTickCount(), {}});
     }
     announce();
     return TRUE;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "dialog.h"
+#include "text/guarded.h"
 
 // Opening a document or an address with the desktop's own helper, which gets it as an argument.
 namespace platform {
@@ -64,8 +65,10 @@ HINSTANCE ShellExecuteA(HWND, LPCSTR operation, LPCSTR target, LPCSTR, LPCSTR, I
     const auto answer = [](std::uintptr_t code) { return reinterpret_cast<HINSTANCE>(code); };
     if (operation && std::strcmp(operation, "open") != 0) return answer(kNoSuchOperation);
     if (!target || !target[0]) return answer(kNotFound);
-    // A name that begins like an option is still a name.
-    const std::string name = target[0] == '-' ? std::string("./") + target : target;
-    return answer(start_helper(name.c_str()) ? kDone : kNotFound);
+    return text::guarded(answer(0), [=] { // which stands for memory here
+        // A name that begins like an option is still a name.
+        const std::string name = target[0] == '-' ? std::string("./") + target : target;
+        return answer(start_helper(name.c_str()) ? kDone : kNotFound);
+    });
 }
 }

@@ -5,6 +5,7 @@
 #include "messages.h"
 #include "process.h"
 #include "queue.h"
+#include "text/guarded.h"
 #include "window_state.h"
 
 namespace platform {
@@ -81,11 +82,10 @@ UINT_PTR SetTimer(HWND wnd, UINT_PTR id, UINT milliseconds, TIMERPROC procedure)
     auto old = find_timer(wnd, id);
     if (!wnd && old == timers().end()) id = fresh_id();
     const Timer timer = {wnd, id, period, GetTickCount64() + period, procedure};
-    if (old == timers().end()) {
-        timers().push_back(timer);
-    } else {
+    if (old != timers().end())
         *old = timer;
-    }
+    else if (!text::guarded(false, [&] { return timers().push_back(timer), true; }))
+        return 0;
     return id ? id : 1;
 }
 

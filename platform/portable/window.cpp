@@ -5,6 +5,7 @@
 #include "input.h"
 #include "messages.h"
 #include "surface.h"
+#include "text/guarded.h"
 #include "window_state.h"
 
 // The life of windows: made, found, ended.
@@ -26,7 +27,7 @@ static SIZE first_size(int width, int height) {
     return {std::clamp(width, 0, kMostPixels), std::clamp(height, 0, kMostPixels)};
 }
 
-static std::unique_ptr<Window> make_window(WindowClass& type, const CREATESTRUCTW& wish) {
+static HWND make_window(WindowClass& type, const CREATESTRUCTW& wish) {
     auto window = std::make_unique<Window>();
     window->type = &type;
     window->procedure = type.procedure;
@@ -44,7 +45,7 @@ static std::unique_ptr<Window> make_window(WindowClass& type, const CREATESTRUCT
     window->size = first_size(wish.cx, wish.cy);
     if (window->style & WS_MAXIMIZE) window->layout = Layout::maximized;
     if (window->style & WS_MINIMIZE) window->layout = Layout::minimized;
-    return window;
+    return reinterpret_cast<HWND>(windows().add(std::move(window)));
 }
 
 // The desktop's window and everything that still refers to this one.
@@ -61,7 +62,7 @@ static void release_window(HWND wnd) {
 }
 
 static void end_owned(HWND owner) {
-    for (HWND wnd : windows().all<HWND>()) {
+    for (HWND wnd = nullptr; (wnd = windows().next(wnd)) != nullptr;) {
         const Window* window = find_window(wnd);
         if (window && window->owner == owner) DestroyWindow(wnd);
     }
@@ -81,7 +82,7 @@ HWND CreateWindowExW(DWORD ex_style, LPCWSTR class_name, LPCWSTR title, DWORD st
     CREATESTRUCTW wish = {
         parameter, instance,   menu,    owner, height, width, y, x, static_cast<LONG>(style),
         title,     class_name, ex_style};
-    const auto wnd = reinterpret_cast<HWND>(windows().add(make_window(*type, wish)));
+    const HWND wnd = text::guarded<HWND>(nullptr, [&] { return make_window(*type, wish); });
     if (!wnd) return nullptr;
     type->windows++;
     const SIZE size = find_window(wnd)->size;

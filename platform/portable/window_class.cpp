@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <list>
 
+#include "text/guarded.h"
 #include "window_state.h"
 
 namespace platform {
@@ -43,14 +44,16 @@ ATOM RegisterClassW(const WNDCLASSW* description) {
     WindowClass type;
     type.atom = next_atom();
     if (!type.atom) return 0;
-    type.name = name;
     type.style = description->style;
     type.procedure = description->lpfnWndProc;
     type.extra_bytes = description->cbWndExtra;
     type.cursor = description->hCursor;
     type.brush = description->hbrBackground;
-    classes().push_back(type);
-    return type.atom;
+    return text::guarded<ATOM>(0, [&] {
+        type.name = name;
+        classes().push_back(type);
+        return type.atom;
+    });
 }
 
 ATOM RegisterClassExW(const WNDCLASSEXW* d) {

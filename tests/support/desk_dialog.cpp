@@ -39,6 +39,7 @@ DESK_FUNCTION(HGLOBAL, GlobalAlloc, UINT flags, SIZE_T size) {
     note("GlobalAlloc(" + std::to_string(flags) + ", " + std::to_string(size) + ")");
     if (!dialogs().grants_memory) return nullptr;
     const HGLOBAL block = std::calloc(size, 1);
+    if (!block) return nullptr;
     recorder::name(block, "BLOCK");
     desk::blocks()[block] = size;
     dialogs().live_blocks++;

@@ -8,6 +8,7 @@
 #include "../messages.h"
 #include "desktop_pump.h"
 #include "sdl_library.h"
+#include "text/guarded.h"
 #include "text/unicode.h"
 
 // Windows on the desktop.
@@ -45,8 +46,10 @@ static bool create(const SdlLibrary& sdl, HWND wnd, Window& window) {
     const int y = window.placed ? window.origin.y : static_cast<int>(SDL_WINDOWPOS_UNDEFINED);
     const int width = std::max<int>(window.size.cx, 1);
     const int height = std::max<int>(window.size.cy, 1);
-    SDL_Window* made = sdl.SDL_CreateWindow(text::to_utf8(window.title.c_str()).c_str(), x, y, width, height,
-                                            creation_flags(window));
+    SDL_Window* made = text::guarded<SDL_Window*>(nullptr, [&] {
+        const std::string title = text::to_utf8(window.title.c_str());
+        return sdl.SDL_CreateWindow(title.c_str(), x, y, width, height, creation_flags(window));
+    });
     if (!made) return false;
     sdl.SDL_SetWindowData(made, kHandleName, wnd);
     window.desktop = made;

@@ -75,7 +75,7 @@ static void on_window(const SdlLibrary& sdl, const SDL_WindowEvent& event) {
 
 // The session ends, for windows that wait for a dialog too.
 static void close_all() {
-    for (HWND wnd : windows().all<HWND>()) {
+    for (HWND wnd = nullptr; (wnd = windows().next(wnd)) != nullptr;) {
         if (IsWindowVisible(wnd)) PostMessageW(wnd, WM_SYSCOMMAND, SC_CLOSE, 0);
     }
 }
