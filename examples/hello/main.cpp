@@ -35,6 +35,7 @@ static void mouse(HWND wnd, int event, LPARAM position) {
 
 static LRESULT CALLBACK procedure(HWND wnd, UINT message, WPARAM wparam, LPARAM lparam) {
     PAINTSTRUCT paint;
+    TRACKMOUSEEVENT leaving = {sizeof leaving, TME_LEAVE, wnd, 0};
     switch (message) {
     case WM_SIZE:
         place(wnd);
@@ -46,7 +47,11 @@ static LRESULT CALLBACK procedure(HWND wnd, UINT message, WPARAM wparam, LPARAM 
         button.Draw();
         EndPaint(wnd, &paint);
         return 0;
-    case WM_MOUSEMOVE: mouse(wnd, wparam & MK_LBUTTON ? 1 : 0, lparam); return 0;
+    case WM_MOUSEMOVE:
+        TrackMouseEvent(&leaving);
+        mouse(wnd, wparam & MK_LBUTTON ? 1 : 0, lparam);
+        return 0;
+    case WM_MOUSELEAVE: mouse(wnd, 0, MAKELPARAM(-1, -1)); return 0; // a button that is left is lit no more
     case WM_LBUTTONDOWN: mouse(wnd, 2, lparam); return 0;
     case WM_LBUTTONUP: mouse(wnd, 0, lparam); return 0;
     case WM_DESTROY: PostQuitMessage(0); return 0;

@@ -90,6 +90,10 @@ def hello(tally, system, display):
         window.release()
         window.move(2, 2)
         shows("up again", button())
+        window.move(*control.spot())
+        shows("under the pointer again", button(hover=True))
+        display.xdotool("mousemove", 1399, 899)
+        shows("with the pointer out of the window", button())
     finally:
         window.kill()
 
