@@ -59,10 +59,10 @@ bool matches(const Slot& slot, const char* name, char weight, char slant, int si
 
 // The number of the slot that holds the request, newest first; -1 when none does.
 int find(const char* name, char weight, char slant, int size) {
-    for (int number = current; number >= 0; number--)
-        if (matches(slots[number], name, weight, slant, size)) return number;
-    for (int number = SLOTS - 1; number > current; number--)
-        if (matches(slots[number], name, weight, slant, size)) return number;
+    for (int back = 0; back < SLOTS; back++) {
+        const unsigned number = static_cast<unsigned>(current + SLOTS - back) % SLOTS;
+        if (matches(slots[number], name, weight, slant, size)) return static_cast<int>(number);
+    }
     return -1;
 }
 

@@ -26,20 +26,6 @@ void part(Control& copy) {
     copy.Graph_Normal = copy.Graph_Select = nullptr;
 }
 
-template <typename Control>
-void step(Control& control) {
-    control.Cur_Value = 1;
-    control.Adjust();
-}
-template <typename Control>
-void roll(Control& control) {
-    control.Scroll(-1);
-}
-template <typename Control>
-void read(Control& control) {
-    world::point(100, 70);
-    control.Read();
-}
 // A surface in place of the face; one that could not be had leaves the face.
 template <typename Control>
 void dress(Control& control) {
@@ -65,24 +51,26 @@ TEST(Each_Failure, Boxs) { obey<Boxs>({place, named, part, {DRESS<Boxs>}}); }
 TEST(Each_Failure, Labels) { obey<Labels>({place, named, part, {}}); }
 
 TEST(Each_Failure, Buttons) {
-    obey<Buttons>({place, held, part, {{"Adjust", step<Buttons>}, DRESS<Buttons>}});
+    obey<Buttons>({place, held, part, {{"Adjust", step_value<Buttons>}, DRESS<Buttons>}});
 }
 
 TEST(Each_Failure, Sliders) {
-    obey<Sliders>(
-        {set_up_range,
-         held,
-         part,
-         {{"Adjust", step<Sliders>}, {"Read", read<Sliders>}, {"Scroll", roll<Sliders>}, DRESS<Sliders>}});
+    obey<Sliders>({set_up_range,
+                   held,
+                   part,
+                   {{"Adjust", step_value<Sliders>},
+                    {"Read", read_value<Sliders>},
+                    {"Scroll", roll_value<Sliders>},
+                    DRESS<Sliders>}});
 }
 
 TEST(Each_Failure, Valuators) {
     obey<Valuators>({set_up_bar,
                      held,
                      part,
-                     {{"Adjust", step<Valuators>},
-                      {"Read", read<Valuators>},
-                      {"Scroll", roll<Valuators>},
+                     {{"Adjust", step_value<Valuators>},
+                      {"Read", read_value<Valuators>},
+                      {"Scroll", roll_value<Valuators>},
                       {"Lock", [](Valuators& v) { v.Lock(1); }},
                       DRESS<Valuators>}});
 }

@@ -65,26 +65,9 @@ void part_checks(CheckLists& copy) {
 void part_tab(TabItems&) {}
 
 template <typename Control>
-void step(Control& control) {
-    control.Cur_Value = 1;
-    control.Adjust();
-}
-template <typename Control>
-void read(Control& control) {
-    world::point(60, 60);
-    control.Read();
-}
-template <typename Control>
-void roll(Control& control) {
-    world::point(60, 60);
-    control.Scroll(-1);
-    world::point(-100, -100);
-}
-
-template <typename Control>
 std::vector<Act<Control>> item_acts() {
-    return {{"Adjust", step<Control>},
-            {"Read", read<Control>},
+    return {{"Adjust", step_value<Control>},
+            {"Read", read_value<Control>},
             {"more entries", fill<Control, 5>, Act<Control>::shown, Act<Control>::loses},
             {"fewer entries", fill<Control, 2>, Act<Control>::shown, Act<Control>::loses},
             {"no entries", fill<Control, 0>, Act<Control>::shown, Act<Control>::loses}};
@@ -92,15 +75,17 @@ std::vector<Act<Control>> item_acts() {
 template <typename Control>
 std::vector<Act<Control>> rolling_acts() {
     std::vector<Act<Control>> acts = item_acts<Control>();
-    acts.push_back({"Scroll", roll<Control>});
+    acts.push_back({"Scroll", roll_value<Control>});
     return acts;
 }
 
 TEST(Each_Failure, Lists) { obey<Lists>({set_up_list, entries, part_list, rolling_acts<Lists>()}); }
 
 TEST(Each_Failure, CheckLists) {
-    obey<CheckLists>(
-        {set_up_checks, held, part_checks, {{"Adjust", step<CheckLists>}, {"Read", read<CheckLists>}}});
+    obey<CheckLists>({set_up_checks,
+                      held,
+                      part_checks,
+                      {{"Adjust", step_value<CheckLists>}, {"Read", read_value<CheckLists>}}});
 }
 
 TEST(Each_Failure, Selects) { obey<Selects>({set_up, entries, part_choice, rolling_acts<Selects>()}); }
@@ -109,7 +94,7 @@ TEST(Each_Failure, TabItems) {
     obey<TabItems>({[](TabItems& tab) { place(tab), tab.Slant = 6, tab.Shape = 0x11; },
                     held,
                     part_tab,
-                    {{"Adjust", step<TabItems>}, {"Read", read<TabItems>}}});
+                    {{"Adjust", step_value<TabItems>}, {"Read", read_value<TabItems>}}});
 }
 
 TEST(Each_Failure, Tabs) {

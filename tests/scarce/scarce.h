@@ -153,6 +153,23 @@ void press(Control& control) {
     world::point(-100, -100);
 }
 
+template <typename Control>
+void step_value(Control& control) {
+    control.Cur_Value = 1;
+    control.Adjust();
+}
+template <typename Control>
+void read_value(Control& control) {
+    world::point(60, 60);
+    control.Read();
+}
+template <typename Control>
+void roll_value(Control& control) {
+    world::point(60, 60);
+    control.Scroll(-1);
+    world::point(-100, -100);
+}
+
 template <typename Control, typename = void>
 constexpr bool has_pointer = false;
 template <typename Control>
